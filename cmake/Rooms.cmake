@@ -1,0 +1,54 @@
+# What every part of the house is built with, and how a room is declared.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+find_program(CCACHE ccache)
+if(CCACHE)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+endif()
+
+add_library(pta_flags INTERFACE)
+target_include_directories(pta_flags INTERFACE ${PROJECT_SOURCE_DIR})
+target_compile_options(
+  pta_flags
+  INTERFACE -Wall
+            -Wextra
+            -Wpedantic
+            -Wconversion
+            -Wshadow
+            -Wsuggest-override
+            -Werror)
+if(WIN32)
+  target_compile_definitions(pta_flags INTERFACE UNICODE _UNICODE WIN32_LEAN_AND_MEAN NOMINMAX
+                                                 _WIN32_WINNT=0x0A00)
+  target_compile_options(pta_flags INTERFACE -ffunction-sections -fdata-sections
+                                             -fstack-protector-strong)
+endif()
+if(PTA_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all
+                      -fno-omit-frame-pointer -g1)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+
+# pta_room(FOLDER [USES FOLDER...]): the sources of one folder, without its subfolders, as a library
+# that may use those of the folders named.
+function(pta_room folder)
+  cmake_parse_arguments(ROOM "" "" "USES" ${ARGN})
+  string(REPLACE "/" "_" target "pta_${folder}")
+  file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${folder}/*.cpp)
+  if(sources)
+    add_library(${target} STATIC ${sources})
+    set(scope PUBLIC)
+  else()
+    add_library(${target} INTERFACE)
+    set(scope INTERFACE)
+  endif()
+  target_link_libraries(${target} ${scope} pta_flags)
+  foreach(used IN LISTS ROOM_USES)
+    string(REPLACE "/" "_" name "pta_${used}")
+    target_link_libraries(${target} ${scope} ${name})
+  endforeach()
+endfunction()

@@ -1,0 +1,20 @@
+#pragma once
+
+namespace common {
+
+/// Thrown to end the run from anywhere, through any number of modal dialogs. Deliberately no
+/// std::exception: no error handler catches it, only the composition root does.
+struct EndOfRun {};
+
+/// The end of the run as the rooms see it.
+class RunEnd {
+ public:
+  virtual ~RunEnd() = default;
+
+  /// Unloads the forms and ends the run. Does not return.
+  [[noreturn]] virtual void EndScript() = 0;
+  /// Ends the program at once, without the end procedure; what is held is still released.
+  [[noreturn]] virtual void EndAtOnce() = 0;
+};
+
+}  // namespace common

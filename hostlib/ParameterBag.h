@@ -1,0 +1,23 @@
+#pragma once
+
+#include "hostlib/Facade.h"
+
+namespace hostlib {
+
+/// A keyed bag of variants; a fresh one for every request. Keys are case-exact. A key that was
+/// never set gives an empty value.
+class ParameterBag : public Facade {
+ public:
+  explicit ParameterBag(Library& library) : Facade(library.Create(operations::kBag)) {}
+  /// A bag that the library made.
+  explicit ParameterBag(const Value& answer) : Facade(answer.AsObject()) {}
+
+  void SetValue(std::wstring_view key, const Value& value) {
+    Call(operations::parameter_bag::kSetValue, {Value(key), value});
+  }
+  Value GetValue(std::wstring_view key) const {
+    return Call(operations::parameter_bag::kGetValue, {Value(key)});
+  }
+};
+
+}  // namespace hostlib

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "hostlib/ParameterBag.h"
+
+namespace hostlib {
+
+/// The library's one global object, created on first use and kept for the whole run.
+class ScriptGlobal : public Facade {
+ public:
+  explicit ScriptGlobal(Library& library) : library_(library) {}
+
+  /// `number` counts from 1; "" past the last field.
+  std::wstring GetField(std::wstring_view text, int number, std::wstring_view delimiter) {
+    return Use(operations::script_global::kGetField, {Value(text), Value(number), Value(delimiter)})
+        .Text();
+  }
+  std::wstring HostDateToText(std::wstring_view hostDate) {
+    return Use(operations::script_global::kHostDateToText, {Value(hostDate)}).Text();
+  }
+  std::wstring TextToHostDate(std::wstring_view date) {
+    return Use(operations::script_global::kTextToHostDate, {Value(date)}).Text();
+  }
+  std::wstring ToText(const Value& value) {
+    return Use(operations::script_global::kToText, {value}).Text();
+  }
+  bool ToBoolean(const Value& value) {
+    return Use(operations::script_global::kToBoolean, {value}).Flag();
+  }
+  /// True when the run must end at once.
+  bool Attach(const ObjectPtr& progressForm, const ObjectPtr& application) {
+    return Use(operations::script_global::kAttach, {Value(progressForm), Value(application)})
+        .Flag();
+  }
+  std::wstring FormatAssociation(std::wstring_view elementNumbers) {
+    return Use(operations::script_global::kFormatAssociation, {Value(elementNumbers)}).Text();
+  }
+
+  /// A key's value as the convention reads it: GetValue, then ToText or ToBoolean.
+  std::wstring TextIn(const ParameterBag& bag, std::wstring_view key) {
+    return ToText(bag.GetValue(key));
+  }
+  bool FlagIn(const ParameterBag& bag, std::wstring_view key) {
+    return ToBoolean(bag.GetValue(key));
+  }
+
+ private:
+  Value Use(const Operation& operation, const Arguments& arguments) {
+    if (object_ == nullptr) object_ = library_.Create(operations::script_global::kClass);
+    return Call(operation, arguments);
+  }
+
+  Library& library_;
+};
+
+}  // namespace hostlib

@@ -1,0 +1,38 @@
+#include "ui/controls/Control.h"
+
+#include "ui/controls/Form.h"
+
+namespace ui {
+
+Control::Control(Form& form, ControlKind kind, std::wstring_view name)
+    : form_(form), kind_(kind), name_(name) {
+  form_.Add(*this);
+}
+
+void Control::SetText(std::wstring_view text) {
+  StoreText(text);
+  PropertySet(Property::kText);
+}
+
+void Control::SetEnabled(bool enabled) {
+  enabled_ = enabled;
+  PropertySet(Property::kEnabled);
+}
+
+bool Control::CanFocus() const {
+  const bool takesFocus = kind_ == ControlKind::kTextBox || kind_ == ControlKind::kCheckBox ||
+                          kind_ == ControlKind::kButton || kind_ == ControlKind::kListBox;
+  return takesFocus && enabled_;
+}
+
+void Control::SetFocus() {
+  if (CanFocus()) form_.AskFocus(*this);
+}
+
+bool Control::HasFocus() const { return form_.ActiveControl() == this; }
+
+void Control::PropertySet(Property property) {
+  if (form_.view() != nullptr) form_.view()->ControlSet(*this, property);
+}
+
+}  // namespace ui

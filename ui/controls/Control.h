@@ -1,0 +1,78 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace ui {
+
+class Form;
+
+/// What of a control the program has set, for the desktop that shows it.
+enum class Property {
+  kText,
+  kEnabled,
+  kLocked,
+  kValue,
+  kBackColor,
+  kSelection,
+  kItems,
+  kInterval,
+};
+
+enum class ControlKind {
+  kLabel,
+  kFrame,
+  kTextBox,
+  kCheckBox,
+  kButton,
+  kListBox,
+  kStatusBar,
+  kTimer
+};
+
+/// A control of a form, with no window behind it. The program's own sets go to the desktop that
+/// shows the form; what the user does comes from the desktop and raises only the event.
+class Control {
+ public:
+  Control(Form& form, ControlKind kind, std::wstring_view name);
+  virtual ~Control() = default;
+  Control(const Control&) = delete;
+  Control& operator=(const Control&) = delete;
+
+  ControlKind kind() const { return kind_; }
+  const std::wstring& name() const { return name_; }
+  Form& form() const { return form_; }
+
+  /// The text of a text box or status bar; the caption of everything else.
+  const std::wstring& Text() const { return text_; }
+  virtual void SetText(std::wstring_view text);
+
+  bool Enabled() const { return enabled_; }
+  void SetEnabled(bool enabled);
+
+  /// Whether the user can move the focus here.
+  bool CanFocus() const;
+  /// Moves the focus here. Nothing happens while the form is not visible or the control is off.
+  void SetFocus();
+  bool HasFocus() const;
+
+  // Raised by the form, in this order, when the focus moves.
+  std::function<void()> onLostFocus;
+  std::function<void()> onGotFocus;
+  /// A key goes down; virtual-key code (112 is F1).
+  std::function<void(int)> onKeyDown;
+
+ protected:
+  void PropertySet(Property property);
+  void StoreText(std::wstring_view text) { text_ = text; }
+
+ private:
+  Form& form_;
+  ControlKind kind_;
+  std::wstring name_;
+  std::wstring text_;
+  bool enabled_ = true;
+};
+
+}  // namespace ui

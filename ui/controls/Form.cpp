@@ -1,0 +1,68 @@
+#include "ui/controls/Form.h"
+
+namespace ui {
+
+Form::Form(std::wstring_view name) : name_(name) {}
+
+Control* Form::Find(std::wstring_view name) const {
+  for (Control* control : controls_) {
+    if (control->name() == name) return control;
+  }
+  return nullptr;
+}
+
+void Form::SetCaption(std::wstring_view caption) {
+  caption_ = caption;
+  if (view_ != nullptr) view_->FormSet(*this);
+}
+
+void Form::SetPointer(MousePointer pointer) {
+  pointer_ = pointer;
+  if (view_ != nullptr) view_->FormSet(*this);
+}
+
+void Form::SetKeyPreview(bool preview) {
+  keyPreview_ = preview;
+  if (view_ != nullptr) view_->FormSet(*this);
+}
+
+void Form::Hide() {
+  if (!visible_) return;
+  visible_ = false;
+  if (view_ != nullptr) view_->FormClosed(*this);
+}
+
+void Form::Unload() {
+  if (!loaded_) return;
+  loaded_ = false;
+  Hide();
+  active_ = nullptr;
+  OnUnload();
+}
+
+bool Form::Load() {
+  if (!loaded_) {
+    loaded_ = true;
+    OnLoad();
+  }
+  return loaded_;
+}
+
+void Form::Shown(FormView& view) {
+  view_ = &view;
+  visible_ = true;
+}
+
+void Form::FocusMovedTo(Control* control) {
+  if (control == active_) return;
+  Control* const left = active_;
+  active_ = control;
+  if (left != nullptr && left->onLostFocus) left->onLostFocus();
+  if (active_ == control && control != nullptr && control->onGotFocus) control->onGotFocus();
+}
+
+void Form::AskFocus(Control& control) {
+  if (visible_ && view_ != nullptr) view_->FocusAsked(control);
+}
+
+}  // namespace ui

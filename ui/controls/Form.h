@@ -1,0 +1,92 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "ui/controls/Controls.h"
+
+namespace ui {
+
+enum class MousePointer { kDefault = 0, kHourglass = 11 };
+
+/// The desktop behind a form that it shows. Every call comes from a set that the program made.
+class FormView {
+ public:
+  virtual ~FormView() = default;
+  virtual void ControlSet(Control& control, Property property) = 0;
+  /// Caption, mouse pointer or key preview.
+  virtual void FormSet(Form& form) = 0;
+  /// Answered by Form::FocusMovedTo, at once or when the window system has moved it.
+  virtual void FocusAsked(Control& control) = 0;
+  /// The form is no longer visible (hidden or unloaded). It may be shown again.
+  virtual void FormClosed(Form& form) = 0;
+};
+
+/// A form: its controls as members under their own names, its behaviour in its handlers, no window
+/// handle anywhere. A Desktop shows it.
+class Form {
+ public:
+  explicit Form(std::wstring_view name);
+  virtual ~Form() = default;
+  Form(const Form&) = delete;
+  Form& operator=(const Form&) = delete;
+
+  const std::wstring& name() const { return name_; }
+  /// In the order in which they were made: the tab order.
+  const std::vector<Control*>& controls() const { return controls_; }
+  /// Null when the form has no control of that name.
+  Control* Find(std::wstring_view name) const;
+
+  const std::wstring& Caption() const { return caption_; }
+  void SetCaption(std::wstring_view caption);
+  MousePointer Pointer() const { return pointer_; }
+  void SetPointer(MousePointer pointer);
+  /// Keys reach the form's handlers before its controls.
+  bool KeyPreview() const { return keyPreview_; }
+  void SetKeyPreview(bool preview);
+
+  bool IsLoaded() const { return loaded_; }
+  bool IsVisible() const { return visible_; }
+  void Hide();
+  /// Hides the form, forgets that it was loaded and lets it release what it holds.
+  void Unload();
+
+  /// The control that has, or will have, the focus; null when none has.
+  Control* ActiveControl() const { return active_; }
+
+  /// The user closes the window by its close box, its menu or Esc.
+  virtual void OnCloseBox() {}
+
+  // For the desktop.
+
+  /// Loads the form when it is not loaded yet. False when it unloaded itself while loading.
+  bool Load();
+  /// The form becomes visible in `view`, which stays attached until the next one.
+  void Shown(FormView& view);
+  void Detach() { view_ = nullptr; }
+  FormView* view() const { return view_; }
+  /// Raises LostFocus, then GotFocus unless the first handler moved the focus on.
+  void FocusMovedTo(Control* control);
+
+ protected:
+  virtual void OnLoad() {}
+  virtual void OnUnload() {}
+
+ private:
+  friend class Control;
+  void Add(Control& control) { controls_.push_back(&control); }
+  void AskFocus(Control& control);
+
+  std::wstring name_;
+  std::wstring caption_;
+  std::vector<Control*> controls_;
+  MousePointer pointer_ = MousePointer::kDefault;
+  bool keyPreview_ = false;
+  bool loaded_ = false;
+  bool visible_ = false;
+  Control* active_ = nullptr;
+  FormView* view_ = nullptr;
+};
+
+}  // namespace ui
