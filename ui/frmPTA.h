@@ -1,10 +1,13 @@
 #pragma once
 
+#include <array>
+
 #include "common/EndOfRun.h"
 #include "errors/ErrorHandler.h"
 #include "pnr/MCOInfo.h"
 #include "tst/TSTCollection.h"
 #include "tst/TSTGeneral.h"
+#include "ui/FieldValidation.h"
 #include "ui/controls/Desktop.h"
 
 namespace ui {
@@ -17,6 +20,8 @@ class PTADialogActions {
   virtual void SaveSettings() = 0;
   /// Does not come back when all goes well: the update run ends the program.
   virtual void StartUpdateRun() = 0;
+  /// The dialog has been unloaded: the terminal session is no longer needed.
+  virtual void ReleaseSession() = 0;
 };
 
 /// The one dialog in which the agent confirms and edits the PTA before anything is written.
@@ -83,14 +88,54 @@ class frmPTA : public Form {
                     const tst::TSTCollection& tsts, std::wstring_view decimal);
   /// Enables OK exactly when every required field is filled.
   void UpdateOKButton();
+  /// The document's own fields can be looked at and copied from now on, not edited.
+  void LockDocumentFields();
 
   void OnCloseBox() override;
 
+ protected:
+  void OnLoad() override;
+  void OnUnload() override;
+
  private:
+  /// A field that is yellow until it is complete.
+  struct RequiredField {
+    TextBox& field;
+    const Label& label;
+    std::size_t completeLength;
+  };
+
+  void BindHelp();
+  void BindTextBoxes();
+  void BindCheckBoxes();
+  void BindButtons();
+
+  void RequiredFieldChanged(const RequiredField& required);
+  void OfficeIDChanged();
+  void OKClicked();
+  void Cancel();
+  void ShowF1(Control& control, std::wstring_view text);
+  /// Empty when every field is complete.
+  std::wstring IncompleteFields() const;
+
+  void EnableOPText(bool enabled);
+  void EnableBODDetails(bool enabled);
+  void SetInitialFocus();
+  void WarnOfTicketingAirline(const tst::TSTGeneral& general, const tst::TSTCollection& tsts);
+  void WarnOfCommission(const pnr::MCOInfo& mco, const tst::TSTCollection& tsts);
+
   Desktop& desktop_;
   errors::ErrorHandler& errors_;
   common::RunEnd& runEnd_;
   PTADialogActions* actions_ = nullptr;
+  FieldValidation validation_;
+  const std::array<RequiredField, 5> required_{{
+      {txtCityCode, lblCityCode, kCityCodeLength},
+      {txtIATANumber, LblIataNr, kIATANumberLength},
+      {txtCommission, lblCommission, 1},
+      {txtPTA, lblPTATotal, 1},
+      {txtPWCT, lblPwct, 1},
+  }};
 };
 
 }  // namespace ui

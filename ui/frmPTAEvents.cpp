@@ -1,0 +1,162 @@
+#include "common/Text.h"
+#include "ui/HelpDefinitions.h"
+#include "ui/frmPTA.h"
+
+namespace ui {
+namespace {
+
+constexpr int kF1 = 112;
+constexpr wchar_t kBackspace = 8;
+constexpr wchar_t kRefused = 0;
+constexpr std::wstring_view kDefaultQueue = L"80";
+
+bool IsCapital(wchar_t character) { return character >= L'A' && character <= L'Z'; }
+bool IsCommissionCharacter(wchar_t character) {
+  return common::IsDigit(character) || character == L'A';
+}
+bool IsQueueCharacter(wchar_t character) {
+  return common::IsDigit(character) || character == L'C' || character == L'D';
+}
+
+/// What may be typed into a field, and what becomes of it when the focus comes.
+struct TypingRule {
+  TextBox& field;
+  bool upperCases;
+  bool (*allows)(wchar_t);  ///< null: everything
+  bool selectsAll;
+};
+
+/// "P&WCT:" is PWCT.
+std::wstring NameOf(const Label& label) {
+  std::wstring name = common::Replace(label.Text(), L"&", L"");
+  if (!name.empty() && name.back() == L':') name.pop_back();
+  return name;
+}
+
+void BindTyping(const TypingRule& rule, Desktop& desktop) {
+  rule.field.onKeyPress = [&desktop, upperCases = rule.upperCases,
+                           allows = rule.allows](wchar_t& character) {
+    if (upperCases) character = common::UpperCase(character);
+    if (allows == nullptr || character == kBackspace || allows(character)) return;
+    character = kRefused;
+    desktop.Beep();
+  };
+  if (rule.upperCases) {
+    rule.field.onPaste = [](std::wstring_view text) { return common::UpperCase(text); };
+  }
+  if (rule.selectsAll) {
+    rule.field.onGotFocus = [&field = rule.field, status = rule.field.onGotFocus] {
+      field.SelectAll();
+      if (status) status();
+    };
+  }
+}
+
+}  // namespace
+
+void frmPTA::BindHelp() {
+  for (Control* control : controls()) {
+    if (const HelpDefinition* help = FindHelp(control->name())) {
+      control->onGotFocus = [this, help] { staStatusText.SetText(help->status); };
+      if (!help->f1.empty()) {
+        control->onKeyDown = [this, control, help](int key) {
+          if (key == kF1) ShowF1(*control, help->f1);
+        };
+      }
+    } else {
+      control->onGotFocus = [this] { staStatusText.SetText(IncompleteFields()); };
+    }
+    control->onLostFocus = [this] { staStatusText.SetText(L""); };
+  }
+}
+
+void frmPTA::ShowF1(Control& control, std::wstring_view text) {
+  desktop_.ShowBox(text, common::kPlain, common::kTitle);
+  control.SetFocus();
+}
+
+std::wstring frmPTA::IncompleteFields() const {
+  std::wstring names;
+  for (const RequiredField& required : required_) {
+    if (required.field.BackColor() != kYellow) continue;
+    names.append(names.empty() ? kIncompleteList : L", ").append(NameOf(required.label));
+  }
+  return names;
+}
+
+void frmPTA::BindTextBoxes() {
+  const TypingRule rules[] = {
+      {txtCityCode, true, IsCapital, true},
+      {txtIATANumber, false, common::IsDigit, true},
+      {txtCommission, true, IsCommissionCharacter, true},
+      {txtPTA, true, nullptr, false},
+      {txtPWCT, true, nullptr, true},
+      {txtQueueCat, true, IsQueueCharacter, true},
+      {txtQueueingOfficeID, true, nullptr, true},
+      {txtOPText, true, nullptr, true},
+      {txtRMBODInfo, true, nullptr, false},
+  };
+  for (const TypingRule& rule : rules) BindTyping(rule, desktop_);
+
+  for (const RequiredField& required : required_) {
+    required.field.onChange = [this, &required] { RequiredFieldChanged(required); };
+  }
+  txtQueueCat.onChange = [this] { UpdateOKButton(); };
+  txtQueueingOfficeID.onChange = [this] { OfficeIDChanged(); };
+}
+
+void frmPTA::RequiredFieldChanged(const RequiredField& required) {
+  const bool complete = required.field.Text().size() >= required.completeLength;
+  required.field.SetBackColor(complete ? kWindowBackground : kYellow);
+  // Colour is not the only sign: an edit that leaves the field incomplete says so in words.
+  if (required.field.HasFocus()) {
+    std::wstring status(FindHelp(required.field.name())->status);
+    if (!complete) status += kIncompleteMark;
+    staStatusText.SetText(status);
+  }
+  UpdateOKButton();
+}
+
+// A changed office has its own queue, so what was typed for the old one goes. The queue field's
+// own Change handler evaluates OK once more.
+void frmPTA::OfficeIDChanged() {
+  if (txtQueueingOfficeID.Text().size() == kOfficeIDLength) UpdateOKButton();
+  if (txtQueueingOfficeID.Text().empty()) {
+    txtQueueCat.SetText(L"");
+    txtQueueCat.SetEnabled(false);
+    lblQueuecatnumber.SetEnabled(false);
+  } else {
+    txtQueueCat.SetEnabled(true);
+    lblQueuecatnumber.SetEnabled(true);
+    txtQueueCat.SetText(kDefaultQueue);
+  }
+}
+
+void frmPTA::BindCheckBoxes() {
+  chkOP.onClick = [this] {
+    EnableOPText(chkOP.Value());
+    if (chkOP.Value()) txtOPText.SetFocus();
+  };
+  chkBOD.onClick = [this] {
+    EnableBODDetails(chkBOD.Value());
+    if (txtRMBODInfo.Enabled()) txtRMBODInfo.SetFocus();
+  };
+}
+
+void frmPTA::EnableOPText(bool enabled) {
+  lblOPText.SetEnabled(enabled);
+  txtOPText.SetEnabled(enabled);
+}
+
+void frmPTA::EnableBODDetails(bool enabled) {
+  txtRMBODInfo.SetEnabled(enabled);
+  lblRMStar.SetEnabled(enabled);
+  chkPasSegAsso.SetEnabled(enabled);
+}
+
+void frmPTA::BindButtons() {
+  cmdOK.onClick = [this] { OKClicked(); };
+  cmdCancel.onClick = [this] { Cancel(); };
+}
+
+}  // namespace ui
