@@ -39,8 +39,11 @@ class GetPTAPNRinfo {
  private:
   void ReadRecordLocator(hostlib::PnrReader& reader);
   void CheckMandatoryElements(hostlib::PnrReader& reader);
+  bool IsInPNR(hostlib::PnrReader& reader, const std::wstring& element);
   void ReadTKElement(hostlib::PnrReader& reader);
   void ReadFirstSegment(hostlib::PnrReader& reader);
+  void ReadResponsibleOffice(hostlib::PnrReader& reader);
+  void SwitchFollowUpOff();
 
   hostlib::Library& library_;
   hostlib::ScriptGlobal& global_;

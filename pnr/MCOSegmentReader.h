@@ -20,6 +20,9 @@ class MCOSegmentReader {
   void GetMCOInformation(std::int16_t index);
 
  private:
+  void ReadAirline(const hostlib::ParameterBag& bag);
+  void CheckAirline();
+
   hostlib::Library& library_;
   hostlib::ScriptGlobal& global_;
   errors::ErrorHandler& errors_;

@@ -24,6 +24,9 @@ class PNRChecks {
   void CheckIR();
 
  private:
+  bool BelongsToMCO(std::wstring_view segmentAssociation) const;
+  bool HasOSIForSK();
+
   hostlib::Library& library_;
   hostlib::ScriptGlobal& global_;
   hostlib::TerminalSession& session_;

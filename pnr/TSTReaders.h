@@ -22,6 +22,11 @@ class TSTReaders {
   void GetFareInformation(const tst::TSTInfo& tst);
 
  private:
+  void CountInfant(const hostlib::ParameterBag& bag, tst::TSTInfo& tst);
+  void CountAdult(const hostlib::ParameterBag& bag, const std::wstring& name, tst::TSTInfo& tst);
+  void ReadFareElement(const hostlib::ParameterBag& bag, const tst::TSTInfo& tst);
+  std::wstring WithCurrency(const std::wstring& amount) const;
+
   hostlib::Library& library_;
   hostlib::ScriptGlobal& global_;
   errors::ErrorHandler& errors_;
