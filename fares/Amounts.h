@@ -11,6 +11,15 @@
 
 namespace fares {
 
+/// An amount text begins with the currency code of this many characters.
+inline constexpr int kCurrencyLength = 3;
+
+/// What follows the currency code; "" when nothing does.
+std::wstring WithoutCurrency(std::wstring_view amount);
+
+/// A number in the host's form.
+std::wstring AmountText(double amount, const settings::Settings& settings);
+
 /// The user's decimal separator; "" when the locale does not tell.
 std::wstring GetDecimalSymbol(const platform::Platform& platform);
 
@@ -32,6 +41,11 @@ class Amounts {
   void MultiplyTSTValues(const tst::TSTInfo& tst);
 
  private:
+  std::wstring Product(std::wstring_view amount, const tst::TSTInfo& tst) const;
+  void MultiplyTaxes(const tst::TSTInfo& tst) const;
+  void MultiplyXFItems(const tst::TSTInfo& tst) const;
+  void MultiplyXFItem(std::wstring& item, const tst::TSTInfo& tst) const;
+
   const settings::Settings& settings_;
   tst::TSTTotals& totals_;
   errors::ErrorHandler& errors_;

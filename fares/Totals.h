@@ -26,7 +26,15 @@ class Totals {
   /// PNRInfo.strRMPTATotal and the dialog's field.
   void BuildPTATotalRemark();
 
+  /// The tax items in MCOInfo's list.
+  int TaxCount() const { return static_cast<int>(taxes_.size()); }
+
  private:
+  void AddXFTax();
+  double XFAmount(std::wstring_view items) const;
+  void AddTaxes();
+  void AddTax(std::wstring_view item);
+
   const Amounts& amounts_;
   const settings::Settings& settings_;
   const tst::TSTTotals& tst_;

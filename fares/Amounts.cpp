@@ -1,0 +1,109 @@
+#include "fares/Amounts.h"
+
+#include <algorithm>
+
+#include "common/Numbers.h"
+#include "common/RunTimeError.h"
+#include "common/Text.h"
+#include "fares/ItemLists.h"
+#include "fares/XFItems.h"
+
+namespace fares {
+namespace {
+
+std::wstring LeadingAmount(std::wstring_view text) {
+  const auto end = std::find_if_not(text.begin(), text.end(),
+                                    [](wchar_t c) { return common::IsDigit(c) || c == L'.'; });
+  return {text.begin(), end};
+}
+
+}  // namespace
+
+std::wstring WithoutCurrency(std::wstring_view amount) {
+  return common::Mid(amount, kCurrencyLength + 1);
+}
+
+std::wstring AmountText(double amount, const settings::Settings& settings) {
+  const std::wstring text = common::NumberText(amount, settings.strSymbol);
+  return common::Replace(text, settings.strSymbol, L".");
+}
+
+std::wstring GetDecimalSymbol(const platform::Platform& platform) {
+  const std::uint32_t locale = platform.UserDefaultLocale();
+  const int length = platform.LocaleInfo(locale, platform::kDecimalSeparator, {});
+  if (length <= 0) return {};
+  std::string buffer(static_cast<std::size_t>(length), '\0');
+  if (platform.LocaleInfo(locale, platform::kDecimalSeparator, buffer) <= 0) return {};
+  // The length that the locale gives counts the closing NUL.
+  buffer.resize(std::min(buffer.find('\0'), buffer.size()));
+  std::wstring symbol;
+  for (const char c : buffer) symbol += static_cast<wchar_t>(static_cast<unsigned char>(c));
+  return symbol;
+}
+
+Amounts::Amounts(const settings::Settings& settings, tst::TSTTotals& totals,
+                 errors::ErrorHandler& errors)
+    : settings_(settings), totals_(totals), errors_(errors) {}
+
+double Amounts::ParseAmount(std::wstring_view amount) const {
+  const std::wstring kept = LeadingAmount(amount);
+  if (settings_.strSymbol.empty() && common::Contains(kept, L".")) {
+    // Dropping the point would read a hundred times the amount.
+    throw common::TypeMismatch(L"no decimal separator is known to read " + kept);
+  }
+  return common::ToDouble(common::Replace(kept, L".", settings_.strSymbol), settings_.strSymbol);
+}
+
+void Amounts::MultiplyAmount(std::wstring& amount, const tst::TSTInfo& tst) const {
+  errors_.Run(errors::procedures::kMultiplyAmount, [&] { amount = Product(amount, tst); });
+}
+
+std::wstring Amounts::Product(std::wstring_view amount, const tst::TSTInfo& tst) const {
+  const double value = ParseAmount(WithoutCurrency(amount));
+  // Counted in the shortest text of the value: zeros that the host wrote beyond it are taken for
+  // the suffix.
+  const int digits = common::Length(common::NumberText(value, settings_.strSymbol));
+  const std::wstring result = common::Left(amount, kCurrencyLength) +
+                              common::NumberText(value * tst.intNoNames, settings_.strSymbol) +
+                              common::Mid(amount, digits + kCurrencyLength + 1);
+  return common::Replace(result, settings_.strSymbol, L".");
+}
+
+void Amounts::MultiplyTSTValues(const tst::TSTInfo& tst) {
+  errors_.Run(errors::procedures::kMultiplyTSTValues, [&] {
+    const auto multiplyGiven = [&](std::wstring& amount) {
+      if (!amount.empty()) MultiplyAmount(amount, tst);
+    };
+    MultiplyAmount(totals_.strFare, tst);
+    multiplyGiven(totals_.strEquivalentFare);
+    multiplyGiven(totals_.strNetFare);
+    multiplyGiven(totals_.strSellingFare);
+    MultiplyTaxes(tst);
+    MultiplyXFItems(tst);
+    multiplyGiven(totals_.strTotalFare);
+  });
+}
+
+void Amounts::MultiplyTaxes(const tst::TSTInfo& tst) const {
+  std::vector<std::wstring> taxes = SplitItems(totals_.strTaxList);
+  for (std::wstring& tax : taxes) {
+    if (!tax.empty()) MultiplyAmount(tax, tst);
+  }
+  totals_.strTaxList = JoinItems(taxes);
+}
+
+void Amounts::MultiplyXFItems(const tst::TSTInfo& tst) const {
+  std::vector<std::wstring> items = SplitItems(totals_.strXFTax);
+  for (std::wstring& item : items) {
+    errors_.Run(errors::procedures::kMultiplyAmount, [&] { MultiplyXFItem(item, tst); });
+  }
+  totals_.strXFTax = JoinItems(items);
+}
+
+void Amounts::MultiplyXFItem(std::wstring& item, const tst::TSTInfo& tst) const {
+  const XFItem cut = CutXFItem(item);
+  if (cut.amount.empty()) return;
+  item = cut.before + AmountText(ParseAmount(cut.amount) * tst.intNoNames, settings_) + cut.after;
+}
+
+}  // namespace fares
