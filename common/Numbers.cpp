@@ -38,8 +38,10 @@ double FromDigits(std::wstring_view digits) {
   double number = 0;
   const auto [end, error] = std::from_chars(narrow.data(), narrow.data() + narrow.size(), number,
                                             std::chars_format::fixed);
-  if (error == std::errc::result_out_of_range) throw OverflowError();
-  return number;
+  if (error != std::errc::result_out_of_range) return number;
+  // Too large, or a fraction too small to tell from 0.
+  if (narrow.find_first_of("123456789") < narrow.find('.')) throw OverflowError();
+  return 0;
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 #include "common/Text.h"
 
 #include <algorithm>
-#include <cwctype>
 
 #include "common/RunTimeError.h"
 
@@ -28,6 +27,7 @@ bool ClassHolds(std::wstring_view pattern, std::size_t& at, wchar_t character) {
       at += 2;
     }
     ++at;
+    if (high < low) throw RunTimeError(L"Invalid pattern: a range that goes down");
     held = held || (low <= character && character <= high);
   }
   if (at == pattern.size()) throw RunTimeError(L"Invalid pattern: a missing ]");
@@ -141,8 +141,23 @@ std::wstring Replace(std::wstring_view text, std::wstring_view sought, std::wstr
 
 std::wstring Space(int count) { return std::wstring(Count(count), L' '); }
 
+// By hand, since the C library's answer hangs on its locale and differs between systems. The
+// letters of the western and central European alphabets; all others are their own capitals.
 wchar_t UpperCase(wchar_t character) {
-  return static_cast<wchar_t>(std::towupper(static_cast<std::wint_t>(character)));
+  const auto within = [character](wchar_t first, wchar_t last) {
+    return first <= character && character <= last;
+  };
+  const auto below = [character](int distance) {
+    return static_cast<wchar_t>(character - distance);
+  };
+  const bool isOdd = character % 2 != 0;
+  if (within(L'a', L'z') || (within(0xE0, 0xFE) && character != 0xF7)) return below(0x20);
+  if (character == 0xFF) return 0x178;
+  // From here on each capital stands next before its small letter: on even places, or on odd ones.
+  const bool capitalIsEven = (within(0x100, 0x137) && character != 0x131) || within(0x14A, 0x177);
+  const bool capitalIsOdd = within(0x139, 0x148) || within(0x179, 0x17E);
+  if ((capitalIsEven && isOdd) || (capitalIsOdd && !isOdd)) return below(1);
+  return character;
 }
 
 std::wstring UpperCase(std::wstring_view text) {
@@ -167,6 +182,8 @@ bool Like(std::wstring_view text, std::wstring_view pattern) {
     }
     return false;
   }
+  // An empty class stands for nothing at all.
+  if (pattern.starts_with(L"[]")) return Like(text, pattern.substr(2));
   if (text.empty()) return false;
   std::size_t next = 1;
   bool matches = pattern.front() == text.front();

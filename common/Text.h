@@ -29,6 +29,7 @@ int InStrAnyCase(std::wstring_view text, std::wstring_view sought);
 
 std::wstring Replace(std::wstring_view text, std::wstring_view sought, std::wstring_view by);
 std::wstring Space(int count);
+/// The letters of the western and central European alphabets; the same in every locale.
 std::wstring UpperCase(std::wstring_view text);
 wchar_t UpperCase(wchar_t character);
 bool IsDigit(wchar_t character);
@@ -37,7 +38,8 @@ bool IsLetter(wchar_t character);
 int Length(std::wstring_view text);
 
 /// Pattern match with "?" any one character, "#" one digit, "*" any run, "[A-Z]" one of a class
-/// ("[!A-Z]" none of it), everything else itself; case-sensitive, over the whole text.
+/// ("[!A-Z]" none of it, "[]" nothing at all), everything else itself; case-sensitive, over the
+/// whole text. A class that is not closed, or a range that goes down, is a RunTimeError.
 bool Like(std::wstring_view text, std::wstring_view pattern);
 
 /// UTF-8 where text leaves the process as a file or on a console.
