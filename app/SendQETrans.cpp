@@ -22,7 +22,7 @@ SendQETrans::SendQETrans(hostlib::Library& library, hostlib::ScriptGlobal& globa
       boxes_(boxes),
       runEnd_(runEnd) {}
 
-void SendQETrans::Place(std::wstring_view officeID, std::wstring_view queueText) {
+void SendQETrans::SendQE(std::wstring_view officeID, std::wstring_view queueText) {
   errors_.Run(errors::procedures::kSendQETrans, [&] {
     if (IsQueued(officeID, queueText)) return;
     // Here the request and both bags have been released: the box may stand for long.

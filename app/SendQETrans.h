@@ -21,7 +21,7 @@ class SendQETrans {
 
   /// `queueText` is a number, with or without "C" and a category: 80, 80C1. When the host did not
   /// take the PNR, the agent may end the run.
-  void Place(std::wstring_view officeID, std::wstring_view queueText);
+  void SendQE(std::wstring_view officeID, std::wstring_view queueText);
 
  private:
   struct Queue {
