@@ -138,17 +138,17 @@ struct OrderView : FormView {
 };
 
 TEST(Change, AnOfficeIDOfNineCharactersEvaluatesOKBeforeTheQueueIsTouched) {
+  OrderView view;
   Shown bench;
   bench.form.txtQueueCat.TextTyped(L"");
-  OrderView view;
   bench.form.Shown(view);
   bench.form.txtQueueingOfficeID.TextTyped(L"CPHSK0001");
   EXPECT_EQ(view.sets, (Lines{L"OK off", L"queue on", L"queue text 80", L"OK on"}));
 }
 
 TEST(Change, AnOfficeIDOfAnotherLengthEvaluatesOKOnlyThroughTheQueue) {
-  Shown bench;
   OrderView view;
+  Shown bench;
   bench.form.Shown(view);
   for (const std::wstring office : {L"CPHSK000", L"CPHSK00012"}) {
     view.sets.clear();
@@ -158,8 +158,8 @@ TEST(Change, AnOfficeIDOfAnotherLengthEvaluatesOKOnlyThroughTheQueue) {
 }
 
 TEST(Change, AnEmptiedOfficeIDClearsTheQueueBeforeTurningItOff) {
-  Shown bench;
   OrderView view;
+  Shown bench;
   bench.form.Shown(view);
   bench.form.txtQueueingOfficeID.TextTyped(L"");
   EXPECT_EQ(view.sets, (Lines{L"queue text ", L"OK on", L"queue off"}));
