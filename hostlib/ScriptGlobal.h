@@ -9,6 +9,11 @@ class ScriptGlobal : public Facade {
  public:
   explicit ScriptGlobal(Library& library) : library_(library) {}
 
+  /// The first use; later ones change nothing. Throws when the library cannot be found.
+  void Create() {
+    if (object_ == nullptr) object_ = library_.Create(operations::script_global::kClass);
+  }
+
   /// `number` counts from 1; "" past the last field.
   std::wstring GetField(std::wstring_view text, int number, std::wstring_view delimiter) {
     return Use(operations::script_global::kGetField, {Value(text), Value(number), Value(delimiter)})
@@ -45,7 +50,7 @@ class ScriptGlobal : public Facade {
 
  private:
   Value Use(const Operation& operation, const Arguments& arguments) {
-    if (object_ == nullptr) object_ = library_.Create(operations::script_global::kClass);
+    Create();
     return Call(operation, arguments);
   }
 
