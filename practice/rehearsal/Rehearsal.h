@@ -1,0 +1,58 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "hostlib/Object.h"
+#include "practice/host/Host.h"
+
+namespace practice {
+
+/// Everything a rehearsal is made of; texts, not file names.
+struct RehearsalScene {
+  std::wstring booking;  ///< the entries that build the PNR
+  std::wstring ini;      ///< PTA_QX.ini; with hasIni False there is no such file
+  std::wstring agent;    ///< the written agent
+  bool hasIni = true;
+  /// The office found earlier today, as the user's stored value; empty: the host is asked.
+  std::wstring office = L"ARNAG2100";
+  std::chrono::year_month_day today{std::chrono::year(2007), std::chrono::month(2),
+                                    std::chrono::day(20)};
+  std::string decimal = ",";
+  bool attachRefused = false;
+  bool sessionRunning = true;
+  /// Sees the host, with the booking loaded, before the run starts; may tell it to misbehave.
+  std::function<void(Host&)> prepare;
+  /// Stands between the program and the library, when given.
+  std::function<std::unique_ptr<hostlib::Library>(hostlib::Library&)> decorate;
+};
+
+/// What a rehearsal has shown.
+struct RehearsalOutcome {
+  std::wstring disagreement;  ///< "" when run and agent agreed
+  int exitCode = 0;
+  std::vector<std::wstring> calls;  ///< library calls, one line each
+  struct Entry {
+    std::wstring entry;
+    std::wstring answer;
+  };
+  std::vector<Entry> entries;
+  std::vector<std::wstring> seen;
+  std::wstring pnrBefore;
+  std::wstring pnrAfter;
+  std::wstring iniAfter;
+  std::vector<std::wstring> printed;
+  int liveObjects = 0;  ///< library objects not released
+
+  /// The entries alone.
+  std::vector<std::wstring> EntryTexts() const;
+};
+
+/// Runs the whole program, without a window, against a booking with a written agent. Throws
+/// BookingError or AgentScriptError for a scene that cannot be set.
+RehearsalOutcome Rehearse(const RehearsalScene& scene);
+
+}  // namespace practice
