@@ -62,7 +62,6 @@ void frmWaitForMCO::StartAfresh() {
   element_.clear();
   cancelled_ = false;
   waited_ = 0;
-  minutesShown_ = 0;
 }
 
 std::int16_t frmWaitForMCO::CountMCOs(bool readAgain) {

@@ -48,6 +48,7 @@ TEST(GetTSMList, ATSMIsAskedForByItsNumberAsAnInteger) {
   bench.displays = {bench.OneTSM(250.0)};
   bench.list.GetTSMList(7);
   const Lines calls = bench.TakeCalls();
+  ASSERT_GE(calls.size(), 4u);
   EXPECT_EQ(calls[1], L"ParameterBag.1.7 SetValue(\"blnKeyRedisplayPNR\", True)");
   EXPECT_EQ(calls[2], L"ParameterBag.1.7 SetValue(\"strNoTSM\", 7)");
   EXPECT_EQ(calls[3], L"TsmDisplayReader.1.7 BuildTQMEntry(<ParameterBag>) -> \"E2\"");
@@ -236,10 +237,8 @@ TEST(GetTSMList, AFailureOfTheLibraryIsReportedByTheLibrary) {
   TSMBench bench;
   bench.scripted.Fail(terminal_session::kSendCommand, 77, L"the line is down");
   EXPECT_FALSE(bench.list.GetTSMList(0));
-  const Lines calls = bench.TakeCalls();
-  EXPECT_EQ((Lines{calls.end() - 2, calls.end()}),
-            (Lines{L"ScriptErrorReporter.1.10 LastErrorNumber() -> 77",
-                   L"ScriptErrorReporter.1.11 ReportLastError()"}));
+  EXPECT_EQ(Last(bench.TakeCalls(), 2), (Lines{L"ScriptErrorReporter.1.10 LastErrorNumber() -> 77",
+                                               L"ScriptErrorReporter.1.11 ReportLastError()"}));
 }
 
 TEST(GetTSMList, AFailureThatTheLibraryDoesNotKeepIsDescribed) {

@@ -1,11 +1,10 @@
 #pragma once
 
 #include "mco/TSMList.h"
+#include "tests/mco/Lines.h"
 #include "tests/support/RoomBench.h"
 
 namespace mco {
-
-using Lines = std::vector<std::wstring>;
 
 /// A TSM list on a scripted library: `displays` are given one a TQM, and the entries that are
 /// built are numbered E1, E2, ...

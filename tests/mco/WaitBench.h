@@ -2,11 +2,10 @@
 
 #include "mco/WaitForMCO.h"
 #include "practice/library/ParameterBagObject.h"
+#include "tests/mco/Lines.h"
 #include "tests/support/RoomBench.h"
 
 namespace mco {
-
-using Lines = std::vector<std::wstring>;
 
 inline const std::wstring kComplete =
     L"Select the MCO segment to use. Note that it is only possible to select MCO segments with an "
