@@ -46,6 +46,7 @@ void TextBox::SelectAll() { Select(0, static_cast<int>(Text().size())); }
 
 void TextBox::TextTyped(std::wstring_view text) {
   StoreText(text);
+  SelectionMoved(selectionStart_, 0);
   if (onChange) onChange();
 }
 

@@ -1,0 +1,190 @@
+#include <gtest/gtest.h>
+
+#include "tests/support/FakeDesktop.h"
+
+namespace ui {
+namespace {
+
+using Events = std::vector<std::wstring>;
+
+/// Two fields and a button that write down their focus, and what happens to the form itself.
+struct WatchedForm : Form {
+  WatchedForm() : Form(L"WatchedForm") {
+    for (Control* control : controls()) {
+      control->onGotFocus = [this, control] { events.push_back(L"got " + control->name()); };
+      control->onLostFocus = [this, control] { events.push_back(L"lost " + control->name()); };
+    }
+  }
+  void OnLoad() override {
+    events.push_back(L"load");
+    if (inLoad) inLoad();
+  }
+  void OnUnload() override { events.push_back(L"unload"); }
+  Events TakeEvents() { return std::exchange(events, {}); }
+
+  TextBox first{*this, L"first"};
+  TextBox second{*this, L"second"};
+  Button third{*this, L"third", L"Third"};
+  std::function<void()> inLoad;
+  Events events;
+};
+
+struct FormBench {
+  support::FakeDesktop desktop;
+  WatchedForm form;
+};
+
+struct ShownBench : FormBench {
+  ShownBench() {
+    desktop.Show(form);
+    form.TakeEvents();
+    desktop.log.clear();
+  }
+};
+
+TEST(Form, ShowingLoadsOnce) {
+  FormBench bench;
+  bench.desktop.Show(bench.form);
+  bench.form.Hide();
+  bench.desktop.Show(bench.form);
+  EXPECT_EQ(bench.form.TakeEvents(), Events{L"load"});
+  EXPECT_TRUE(bench.form.IsVisible());
+}
+
+TEST(Form, AFormThatUnloadsItselfWhileLoadingIsNeverSeen) {
+  FormBench bench;
+  bench.form.inLoad = [&] { bench.form.Unload(); };
+  bench.desktop.ShowModal(bench.form);
+  EXPECT_EQ(bench.form.TakeEvents(), (Events{L"load", L"unload"}));
+  EXPECT_EQ(bench.desktop.log, Events{});
+  EXPECT_FALSE(bench.form.IsLoaded());
+  EXPECT_FALSE(bench.form.IsVisible());
+}
+
+TEST(Form, HidingKeepsItLoadedAndTellsTheDesktopOnce) {
+  ShownBench bench;
+  bench.form.Hide();
+  bench.form.Hide();
+  EXPECT_TRUE(bench.form.IsLoaded());
+  EXPECT_FALSE(bench.form.IsVisible());
+  EXPECT_EQ(bench.desktop.log, Events{L"close WatchedForm"});
+  EXPECT_EQ(bench.form.TakeEvents(), Events{});
+}
+
+TEST(Form, UnloadingHidesItFirstAndHappensOnce) {
+  ShownBench bench;
+  bench.form.Unload();
+  bench.form.Unload();
+  EXPECT_FALSE(bench.form.IsLoaded());
+  EXPECT_FALSE(bench.form.IsVisible());
+  EXPECT_EQ(bench.desktop.log, Events{L"close WatchedForm"});
+  EXPECT_EQ(bench.form.TakeEvents(), Events{L"unload"});
+}
+
+TEST(Form, AHiddenFormIsUnloadedWithoutTellingTheDesktopAgain) {
+  ShownBench bench;
+  bench.form.Hide();
+  bench.desktop.log.clear();
+  bench.form.Unload();
+  EXPECT_EQ(bench.desktop.log, Events{});
+  EXPECT_EQ(bench.form.TakeEvents(), Events{L"unload"});
+}
+
+TEST(Form, AFormThatWasNeverLoadedIsNotUnloaded) {
+  FormBench bench;
+  bench.form.Unload();
+  EXPECT_EQ(bench.form.TakeEvents(), Events{});
+}
+
+TEST(Form, AnUnloadedFormCanBeLoadedAgain) {
+  ShownBench bench;
+  bench.form.Unload();
+  bench.desktop.Show(bench.form);
+  EXPECT_EQ(bench.form.TakeEvents(), (Events{L"unload", L"load"}));
+}
+
+TEST(Form, ControlsAreFoundByTheirNameAndKeepTheirOrder) {
+  FormBench bench;
+  EXPECT_EQ(bench.form.Find(L"second"), &bench.form.second);
+  EXPECT_EQ(bench.form.Find(L"Second"), nullptr);
+  EXPECT_EQ(bench.form.controls(),
+            (std::vector<Control*>{&bench.form.first, &bench.form.second, &bench.form.third}));
+}
+
+TEST(Form, TheFocusIsLostBeforeItIsGot) {
+  ShownBench bench;
+  bench.form.first.SetFocus();
+  bench.form.second.SetFocus();
+  EXPECT_EQ(bench.form.TakeEvents(), (Events{L"got first", L"lost first", L"got second"}));
+  EXPECT_EQ(bench.form.ActiveControl(), &bench.form.second);
+}
+
+TEST(Form, TheFocusOnTheSameControlAgainRaisesNothing) {
+  ShownBench bench;
+  bench.form.first.SetFocus();
+  bench.form.TakeEvents();
+  bench.form.first.SetFocus();
+  EXPECT_EQ(bench.form.TakeEvents(), Events{});
+}
+
+TEST(Form, WhileTheFocusIsLostTheNextControlIsTheActiveOneAlready) {
+  ShownBench bench;
+  bench.form.first.SetFocus();
+  const Control* active = nullptr;
+  bench.form.first.onLostFocus = [&] { active = bench.form.ActiveControl(); };
+  bench.form.second.SetFocus();
+  EXPECT_EQ(active, &bench.form.second);
+}
+
+TEST(Form, ALostFocusThatMovesTheFocusOnSkipsTheControlBetween) {
+  ShownBench bench;
+  bench.form.first.SetFocus();
+  bench.form.TakeEvents();
+  bench.form.first.onLostFocus = [&] { bench.form.third.SetFocus(); };
+  bench.form.second.SetFocus();
+  EXPECT_EQ(bench.form.TakeEvents(), (Events{L"lost second", L"got third"}));
+  EXPECT_EQ(bench.form.ActiveControl(), &bench.form.third);
+}
+
+TEST(Form, TheFocusCanLeaveTheFormAltogether) {
+  ShownBench bench;
+  bench.form.first.SetFocus();
+  bench.form.TakeEvents();
+  bench.form.FocusMovedTo(nullptr);
+  EXPECT_EQ(bench.form.TakeEvents(), Events{L"lost first"});
+  EXPECT_EQ(bench.form.ActiveControl(), nullptr);
+}
+
+TEST(Form, NothingTakesTheFocusWhileTheFormIsNotVisible) {
+  FormBench bench;
+  bench.form.Load();
+  bench.form.first.SetFocus();
+  EXPECT_EQ(bench.form.ActiveControl(), nullptr);
+  bench.desktop.Show(bench.form);
+  bench.form.Hide();
+  bench.form.first.SetFocus();
+  EXPECT_EQ(bench.form.ActiveControl(), nullptr);
+}
+
+TEST(Form, UnloadingWhileTheFocusIsLostGivesItToNobody) {
+  ShownBench bench;
+  bench.form.first.SetFocus();
+  bench.form.TakeEvents();
+  bench.form.first.onLostFocus = [&] { bench.form.Unload(); };
+  bench.form.second.SetFocus();
+  EXPECT_EQ(bench.form.TakeEvents(), Events{L"unload"});
+  EXPECT_EQ(bench.form.ActiveControl(), nullptr);
+}
+
+TEST(Form, SettingsOfAFormWithoutADesktopAreKept) {
+  FormBench bench;
+  bench.form.SetCaption(L"Caption");
+  bench.form.SetPointer(MousePointer::kHourglass);
+  bench.form.SetKeyPreview(true);
+  EXPECT_EQ(bench.form.Caption(), L"Caption");
+  EXPECT_EQ(bench.form.Pointer(), MousePointer::kHourglass);
+  EXPECT_TRUE(bench.form.KeyPreview());
+}
+
+}  // namespace
+}  // namespace ui
