@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "practice/rehearsal/Rehearsal.h"
+
+namespace run {
+
+using Lines = std::vector<std::wstring>;
+
+/// A file of the checkout, as text without carriage returns.
+std::wstring ReadProjectFile(const std::string& path);
+
+/// The ordinary booking with its INI file and its agent.
+practice::RehearsalScene OrdinaryScene();
+
+/// The same with a piece of a text replaced; the piece must be there.
+void Change(std::wstring& text, std::wstring_view from, std::wstring_view to);
+/// One INI key of the ordinary office, replaced or added.
+void SetIni(practice::RehearsalScene& scene, const std::wstring& key, const std::wstring& value);
+
+/// Rehearses and fails the test when run and agent disagree, or objects are left behind.
+practice::RehearsalOutcome RehearseInAgreement(const practice::RehearsalScene& scene);
+
+/// The calls of one object's operation, e.g. "TerminalSession.1.33".
+Lines CallsOf(const practice::RehearsalOutcome& outcome, std::wstring_view operation);
+bool Holds(const Lines& lines, std::wstring_view line);
+
+}  // namespace run
