@@ -9,7 +9,9 @@ namespace {
 
 namespace procedures = errors::procedures;
 
-double AmountIn(const std::wstring& text) { return common::HostNumber(common::Mid(text, 4)); }
+double AmountIn(const std::wstring& text) {
+  return common::HostNumber(fares::WithoutCurrency(text));
+}
 
 }  // namespace
 
