@@ -14,18 +14,16 @@ add_library(pta_flags INTERFACE)
 target_include_directories(pta_flags INTERFACE ${PROJECT_SOURCE_DIR})
 target_compile_options(
   pta_flags
-  INTERFACE -Wall
-            -Wextra
-            -Wpedantic
-            -Wconversion
-            -Wshadow
-            -Wsuggest-override
-            -Werror)
+  INTERFACE
+    "$<$<COMPILE_LANGUAGE:C,CXX>:-Wall;-Wextra;-Wpedantic;-Wconversion;-Wshadow;-Werror>"
+    "$<$<COMPILE_LANGUAGE:CXX>:-Wsuggest-override>")
 if(WIN32)
   target_compile_definitions(pta_flags INTERFACE UNICODE _UNICODE WIN32_LEAN_AND_MEAN NOMINMAX
                                                  _WIN32_WINNT=0x0A00)
-  target_compile_options(pta_flags INTERFACE -ffunction-sections -fdata-sections
-                                             -fstack-protector-strong)
+  target_compile_options(
+    pta_flags
+    INTERFACE "$<$<COMPILE_LANGUAGE:C,CXX>:-ffunction-sections;-fdata-sections;-fstack-protector-strong>")
+  target_link_options(pta_flags INTERFACE -fstack-protector-strong)
 endif()
 if(PTA_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all

@@ -4,6 +4,10 @@ namespace ui {
 
 Form::Form(std::wstring_view name) : name_(name) {}
 
+Form::~Form() {
+  if (visible_ && view_ != nullptr) view_->FormGone(*this);
+}
+
 Control* Form::Find(std::wstring_view name) const {
   for (Control* control : controls_) {
     if (control->name() == name) return control;

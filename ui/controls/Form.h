@@ -21,6 +21,8 @@ class FormView {
   virtual void FocusAsked(Control& control) = 0;
   /// The form is no longer visible (hidden or unloaded). It may be shown again.
   virtual void FormClosed(Form& form) = 0;
+  /// The form is destroyed while it is visible; its controls are gone already.
+  virtual void FormGone(Form& /*form*/) {}
 };
 
 /// A form: its controls as members under their own names, its behaviour in its handlers, no window
@@ -28,7 +30,7 @@ class FormView {
 class Form {
  public:
   explicit Form(std::wstring_view name);
-  virtual ~Form() = default;
+  virtual ~Form();
   Form(const Form&) = delete;
   Form& operator=(const Form&) = delete;
 

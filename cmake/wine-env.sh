@@ -1,0 +1,90 @@
+# What the scripts that run Windows programs under Wine share; to be sourced by Bash.
+#
+#   wine_use PREFIX [managed]   sets the environment for a prefix, and makes it when it is not there
+#   wine_own_display PREFIX     sets DISPLAY to a virtual display that belongs to the prefix
+#   wine_run PROGRAM ...        runs a program in it, and waits for it alone
+
+wine_loader=$(command -v wine64 || echo /usr/lib/wine/wine64)
+wine_server=$(command -v wineserver || echo /usr/lib/wine/wineserver)
+
+# "managed" leaves the windows to a window manager; without it Wine places and focuses them itself,
+# which needs no window manager and is what the driven windows are made for.
+wine_use() {
+  export WINEPREFIX=$1 WINEARCH=win64 WINEDEBUG=-all
+  # Nothing may ask questions while a prefix is made, nor write menus into the user's desktop.
+  export WINEDLLOVERRIDES='mscoree,mshtml=;winemenubuilder.exe=d'
+  local managed=N
+  [[ ${2:-} == managed ]] && managed=Y
+  unset LANG LANGUAGE ${!LC_*}
+  export LC_ALL=${PTA_WINE_LOCALE:-C.UTF-8}
+  [[ -n ${PTA_WINE_LOCALE_DIR:-} ]] && export LOCPATH=$PTA_WINE_LOCALE_DIR
+  mkdir -p "$WINEPREFIX"
+  exec {wine_lock}>"$WINEPREFIX.lock"
+  flock "$wine_lock"
+  [[ -e $WINEPREFIX/.ready ]] || wine_make_prefix "$managed"
+  flock -u "$wine_lock"
+  exec {wine_lock}>&-
+}
+
+wine_make_prefix() {
+  echo "Making the Wine prefix $WINEPREFIX (once, about 12 s) ..." >&2
+  local settings=$WINEPREFIX.reg
+  cat >"$settings" <<REG
+REGEDIT4
+
+[HKEY_CURRENT_USER\\Software\\Wine\\WineDbg]
+"ShowCrashDialog"=dword:00000000
+
+[HKEY_CURRENT_USER\\Software\\Wine\\Drivers]
+"Graphics"="x11,null"
+
+[HKEY_CURRENT_USER\\Software\\Wine\\X11 Driver]
+"Managed"="$1"
+REG
+  {
+    env -u DISPLAY "$wine_loader" wineboot -i
+    env -u DISPLAY "$wine_loader" winecfg -v win10
+    env -u DISPLAY "$wine_loader" regedit /S "Z:${settings//\//\\}"
+    "$wine_server" -w
+  } >"$WINEPREFIX.log" 2>&1 </dev/null {wine_lock}>&-
+  rm -f "$settings"
+  touch "$WINEPREFIX/.ready"
+}
+
+# The display ends by itself when the prefix's last process is gone.
+wine_own_display() {
+  local state=$1.display number=
+  exec {display_lock}>"$1.display.lock"
+  flock "$display_lock"
+  [[ -s $state ]] && number=$(<"$state")
+  if [[ -z $number ]] || ! [[ -S /tmp/.X11-unix/X$number ]] || ! wine_display_answers "$1"; then
+    "$wine_server" -k >/dev/null 2>&1 || true
+    rm -f "$state"
+    setsid Xvfb -displayfd 3 -terminate -screen 0 "${PTA_SCREEN:-1280x1024x24}" \
+      -dpi "${PTA_DPI:-96}" -nolisten tcp 3>"$state" >/dev/null 2>&1 </dev/null {display_lock}>&- &
+    echo $! >"$1.display.pid"
+    local tries=0
+    until [[ -s $state ]]; do
+      ((++tries > 200)) && { echo "Xvfb did not start" >&2; return 1; }
+      read -rt 0.05 <> <(:) || true
+    done
+    number=$(<"$state")
+  fi
+  export DISPLAY=:$number
+  flock -u "$display_lock"
+  exec {display_lock}>&-
+}
+
+wine_display_answers() { kill -0 "$(<"$1.display.pid")" 2>/dev/null; }
+
+# The output goes through a file: Wine's own background processes inherit a pipe, and whoever reads
+# it would wait for them.
+wine_run() {
+  local output status=0
+  output=$(mktemp)
+  "$wine_server" -p120 >/dev/null 2>&1 </dev/null || true
+  "$wine_loader" "$@" >"$output" 2>&1 </dev/null || status=$?
+  tr -d '\r' <"$output"
+  rm -f "$output"
+  return "$status"
+}

@@ -1,0 +1,233 @@
+#include "tests/windows/driver/Driver.h"
+
+#include <commctrl.h>
+
+#include <array>
+#include <thread>
+#include <vector>
+
+namespace driver {
+
+namespace {
+
+void Send(std::vector<INPUT> inputs) {
+  const UINT sent = SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
+  if (sent != inputs.size()) throw DriverError(L"SendInput took not every key");
+}
+
+INPUT KeyInput(WORD key, bool up) {
+  INPUT input = {};
+  input.type = INPUT_KEYBOARD;
+  input.ki.wVk = key;
+  input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC));
+  input.ki.dwFlags = up ? KEYEVENTF_KEYUP : 0;
+  return input;
+}
+
+void SendKey(WORD key, int modifiers) {
+  constexpr std::array kModifierKeys = {std::pair{kShift, VK_SHIFT},
+                                        std::pair{kControl, VK_CONTROL}, std::pair{kAlt, VK_MENU}};
+  std::vector<INPUT> inputs;
+  for (const auto& [modifier, held] : kModifierKeys) {
+    if ((modifiers & modifier) != 0) inputs.push_back(KeyInput(static_cast<WORD>(held), false));
+  }
+  inputs.push_back(KeyInput(key, false));
+  inputs.push_back(KeyInput(key, true));
+  for (const auto& [modifier, held] : kModifierKeys) {
+    if ((modifiers & modifier) != 0) inputs.push_back(KeyInput(static_cast<WORD>(held), true));
+  }
+  Send(std::move(inputs));
+}
+
+struct Wanted {
+  std::wstring_view caption;
+  HWND found = nullptr;
+};
+
+BOOL CALLBACK Compare(HWND window, LPARAM wanted) {
+  Wanted& search = *reinterpret_cast<Wanted*>(wanted);
+  if (!IsWindowVisible(window) || TextOf(window) != search.caption) return TRUE;
+  search.found = window;
+  return FALSE;
+}
+
+HWND FindNamed(std::wstring_view caption) {
+  Wanted search{caption};
+  EnumWindows(&Compare, reinterpret_cast<LPARAM>(&search));
+  return search.found;
+}
+
+/// Reads text out of another process's status bar, which can not write into our memory.
+class RemoteText {
+ public:
+  explicit RemoteText(HWND window) {
+    DWORD process = 0;
+    GetWindowThreadProcessId(window, &process);
+    process_ = OpenProcess(PROCESS_VM_OPERATION | PROCESS_VM_READ, FALSE, process);
+    memory_ = VirtualAllocEx(process_, nullptr, kBytes, MEM_COMMIT, PAGE_READWRITE);
+  }
+  ~RemoteText() {
+    VirtualFreeEx(process_, memory_, 0, MEM_RELEASE);
+    CloseHandle(process_);
+  }
+  RemoteText(const RemoteText&) = delete;
+  RemoteText& operator=(const RemoteText&) = delete;
+
+  LPARAM parameter() const { return reinterpret_cast<LPARAM>(memory_); }
+  std::wstring Read() const {
+    std::wstring text(kBytes / sizeof(wchar_t), L'\0');
+    ReadProcessMemory(process_, memory_, text.data(), kBytes - sizeof(wchar_t), nullptr);
+    return text.c_str();
+  }
+
+ private:
+  static constexpr SIZE_T kBytes = 4096;
+  HANDLE process_;
+  void* memory_;
+};
+
+}  // namespace
+
+DriverError::DriverError(const std::wstring& what) : std::runtime_error(ToUtf8(what)) {}
+
+bool Holds(const std::function<bool()>& condition, std::chrono::milliseconds time) {
+  const auto end = std::chrono::steady_clock::now() + time;
+  while (!condition()) {
+    if (std::chrono::steady_clock::now() > end) return false;
+    std::this_thread::sleep_for(std::chrono::milliseconds(5));
+  }
+  return true;
+}
+
+void WaitUntil(std::wstring_view what, const std::function<bool()>& condition) {
+  if (!Holds(condition)) throw DriverError(L"Waited in vain until " + std::wstring(what));
+}
+
+HWND WindowNamed(std::wstring_view caption) {
+  HWND window = nullptr;
+  WaitUntil(L"there is a window \"" + std::wstring(caption) + L"\"", [&] {
+    window = FindNamed(caption);
+    return window != nullptr;
+  });
+  return window;
+}
+
+bool IsThere(std::wstring_view caption) { return FindNamed(caption) != nullptr; }
+
+HWND Item(HWND dialog, int id) {
+  HWND item = nullptr;
+  WaitUntil(L"there is a control " + std::to_wstring(id), [&] {
+    item = GetDlgItem(dialog, id);
+    return item != nullptr;
+  });
+  return item;
+}
+
+std::wstring TextOf(HWND window) {
+  std::array<wchar_t, 4096> text = {};
+  DWORD_PTR length = 0;
+  constexpr UINT kHangs = 2000;
+  SendMessageTimeoutW(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()),
+                      SMTO_ABORTIFHUNG, kHangs, &length);
+  return text.data();
+}
+
+std::wstring BoxText(HWND box) {
+  constexpr int kBoxText = 0xFFFF;
+  return TextOf(Item(box, kBoxText));
+}
+
+HWND OkButton(HWND box) {
+  HWND button = nullptr;
+  WaitUntil(L"there is an OK button", [&] {
+    // Windows gives the only button the number of Cancel, so that Esc works on it too.
+    button = GetDlgItem(box, IDOK);
+    if (button == nullptr) button = GetDlgItem(box, IDCANCEL);
+    return button != nullptr;
+  });
+  return button;
+}
+
+std::wstring StatusText(HWND bar) {
+  const RemoteText text(bar);
+  SendMessageW(bar, SB_GETTEXTW, 0, text.parameter());
+  return text.Read();
+}
+
+std::wstring ListLine(HWND list, int index) {
+  const LRESULT length = SendMessageW(list, LB_GETTEXTLEN, static_cast<WPARAM>(index), 0);
+  if (length == LB_ERR) throw DriverError(L"The list has no line " + std::to_wstring(index));
+  std::wstring line(static_cast<std::size_t>(length) + 1, L'\0');
+  SendMessageW(list, LB_GETTEXT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(line.data()));
+  return line.c_str();
+}
+
+HWND FocusOf(HWND window) {
+  const DWORD thread = GetWindowThreadProcessId(window, nullptr);
+  GUITHREADINFO info = {};
+  info.cbSize = sizeof info;
+  if (!GetGUIThreadInfo(thread, &info) || info.hwndFocus == nullptr) return nullptr;
+  const HWND foreground = GetForegroundWindow();
+  return GetAncestor(info.hwndFocus, GA_ROOT) == foreground ? info.hwndFocus : nullptr;
+}
+
+void WaitForFocus(HWND control) {
+  WaitUntil(L"the focus is in control " + std::to_wstring(GetDlgCtrlID(control)),
+            [&] { return FocusOf(control) == control; });
+}
+
+void Type(HWND control, std::wstring_view text) {
+  WaitForFocus(control);
+  for (const wchar_t character : text) {
+    const SHORT key = VkKeyScanW(character);
+    if (key == -1) throw DriverError(L"No key for " + std::wstring(1, character));
+    SendKey(LOBYTE(key), HIBYTE(key));
+  }
+}
+
+void Press(HWND control, WORD key, int modifiers) {
+  WaitForFocus(control);
+  SendKey(key, modifiers);
+}
+
+void TypeOver(HWND control, std::wstring_view text) {
+  Press(control, VK_HOME);
+  Press(control, VK_END, kShift);
+  Type(control, text);
+}
+
+void Click(HWND window) {
+  RECT area = {};
+  GetWindowRect(window, &area);
+  const auto scaled = [](LONG at, int size) {
+    return static_cast<LONG>((static_cast<long long>(at) * 65536 + 32768) / size);
+  };
+  INPUT input = {};
+  input.type = INPUT_MOUSE;
+  input.mi.dx = scaled((area.left + area.right) / 2, GetSystemMetrics(SM_CXSCREEN));
+  input.mi.dy = scaled((area.top + area.bottom) / 2, GetSystemMetrics(SM_CYSCREEN));
+  input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
+  INPUT down = input;
+  down.mi.dwFlags |= MOUSEEVENTF_LEFTDOWN;
+  INPUT up = input;
+  up.mi.dwFlags |= MOUSEEVENTF_LEFTUP;
+  Send({input, down, up});
+}
+
+std::wstring ToWide(std::string_view utf8) {
+  std::wstring text(utf8.size(), L'\0');
+  text.resize(static_cast<std::size_t>(
+      MultiByteToWideChar(CP_UTF8, 0, utf8.data(), static_cast<int>(utf8.size()), text.data(),
+                          static_cast<int>(text.size()))));
+  return text;
+}
+
+std::string ToUtf8(std::wstring_view text) {
+  std::string utf8(text.size() * 3, '\0');
+  utf8.resize(static_cast<std::size_t>(
+      WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), utf8.data(),
+                          static_cast<int>(utf8.size()), nullptr, nullptr)));
+  return utf8;
+}
+
+}  // namespace driver

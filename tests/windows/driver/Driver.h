@@ -1,0 +1,61 @@
+#pragma once
+
+#include <windows.h>
+
+#include <chrono>
+#include <functional>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+/// Drives real windows the way a person does, in this process or in another: finds them by what is
+/// written on them, types, clicks, and reads them. Nothing sleeps for a state; everything waits for
+/// it until a deadline, and fails with a sentence that says what it was waiting for.
+namespace driver {
+
+class DriverError : public std::runtime_error {
+ public:
+  explicit DriverError(const std::wstring& what);
+};
+
+/// True as soon as the condition holds, false when it does not within the time.
+bool Holds(const std::function<bool()>& condition,
+           std::chrono::milliseconds time = std::chrono::seconds(20));
+/// Throws when it does not.
+void WaitUntil(std::wstring_view what, const std::function<bool()>& condition);
+
+/// A visible top-level window with this caption; waits for it.
+HWND WindowNamed(std::wstring_view caption);
+/// Whether there is one now.
+bool IsThere(std::wstring_view caption);
+/// The control with this number; waits for it.
+HWND Item(HWND dialog, int id);
+/// What a window says of itself.
+std::wstring TextOf(HWND window);
+/// The text of a message box.
+std::wstring BoxText(HWND box);
+/// The OK button of a message box, whichever buttons it has; waits for it.
+HWND OkButton(HWND box);
+/// The text in the only panel of a status bar.
+std::wstring StatusText(HWND bar);
+std::wstring ListLine(HWND list, int index);
+
+/// The window that has the focus, when it is one of the same thread as `window` and that thread is
+/// in the foreground; else null.
+HWND FocusOf(HWND window);
+/// Waits until the focus is there.
+void WaitForFocus(HWND control);
+
+/// Types at the focus, which must be, or get, in `control`.
+void Type(HWND control, std::wstring_view text);
+enum Modifier { kNone = 0, kShift = 1, kControl = 2, kAlt = 4 };
+void Press(HWND control, WORD key, int modifiers = kNone);
+/// Selects what is in a text box and types over it.
+void TypeOver(HWND control, std::wstring_view text);
+/// Clicks into the middle of the window.
+void Click(HWND window);
+
+std::wstring ToWide(std::string_view utf8);
+std::string ToUtf8(std::wstring_view text);
+
+}  // namespace driver

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <vector>
+
+#include "ui/win32/NativeControl.h"
+
+namespace ui {
+
+struct WindowDestroyer {
+  void operator()(HWND window) const { DestroyWindow(window); }
+};
+using WindowHandle = std::unique_ptr<std::remove_pointer_t<HWND>, WindowDestroyer>;
+
+/// One shown form: the window made from the dialog template of the form's name, every control tied
+/// to the template's control of the same name. Lives until the form is closed.
+class FormWindow : public FormView {
+ public:
+  /// Throws RunTimeError when the template, or a control in it, is missing.
+  FormWindow(Form& form, HINSTANCE instance, HWND owner, Shell& shell);
+  ~FormWindow() override;
+  FormWindow(const FormWindow&) = delete;
+  FormWindow& operator=(const FormWindow&) = delete;
+
+  HWND handle() const { return window_.get(); }
+  bool IsOpen() const { return form_ != nullptr; }
+  bool Shows(const Form& form) const { return form_ == &form; }
+
+  /// Makes the form visible and gives it the focus.
+  void Appear();
+  /// Switches these windows off for as long as the form is shown.
+  void SwitchOff(const std::vector<HWND>& others);
+  /// Clicks the button that Enter means here: the focused one, else the template's default button,
+  /// if it has one.
+  void Enter(HWND focus);
+
+  void ControlSet(Control& control, Property property) override;
+  void FormSet(Form& form) override;
+  void FocusAsked(Control& control) override;
+  void FormClosed(Form& form) override;
+  void FormGone(Form& form) override;
+
+ private:
+  static INT_PTR CALLBACK Procedure(HWND window, UINT message, WPARAM wParam,
+                                    LPARAM lParam) noexcept;
+  INT_PTR Handle(UINT message, WPARAM wParam, LPARAM lParam);
+  INT_PTR HandleCommand(WPARAM wParam, LPARAM lParam);
+  void Bind(Control& control);
+  void PutUpFrame();
+  void Close();
+  void AskToClose();
+  bool SetPointer(LPARAM lParam);
+  NativeControl* Find(const Control& control) const;
+  NativeControl* Find(HWND window) const;
+
+  Form* form_;  ///< null once closed
+  Shell& shell_;
+  WindowHandle window_;
+  std::vector<std::unique_ptr<NativeControl>> controls_;
+  std::vector<HWND> switchedOff_;
+};
+
+}  // namespace ui

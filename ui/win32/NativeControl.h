@@ -1,0 +1,66 @@
+#pragma once
+
+#include <windows.h>
+
+#include <memory>
+
+#include "ui/controls/Desktop.h"
+#include "ui/win32/Guard.h"
+
+namespace ui {
+
+/// What all windows of one desktop share.
+struct Shell {
+  Guard& guard;
+  const InputGate& gate;
+};
+
+/// The native window of one control. Pushes what the program sets, raises what the user does; what
+/// it pushes itself raises nothing.
+class NativeControl {
+ public:
+  /// `window` is null for a control without a window of its own.
+  static std::unique_ptr<NativeControl> Make(Control& control, HWND dialog, HWND window,
+                                             Shell& shell);
+
+  NativeControl(Control& control, HWND window, Shell& shell);
+  virtual ~NativeControl();
+  NativeControl(const NativeControl&) = delete;
+  NativeControl& operator=(const NativeControl&) = delete;
+
+  Control& control() const { return control_; }
+  HWND window() const { return window_; }
+
+  /// The program has set a property; at first all of them, one after the other.
+  virtual void Push(Property property);
+  /// The native control notifies its dialog.
+  virtual void Notified(WORD /*notification*/) {}
+  /// The brush to paint it with, or null for the usual one.
+  virtual HBRUSH Brush(HDC) { return nullptr; }
+  virtual void Draw(const DRAWITEMSTRUCT&) {}
+  /// From here on the control must not be touched any more: it is about to go.
+  void Forget();
+
+ protected:
+  /// Sees every message of the native window.
+  virtual LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
+  LRESULT Default(UINT message, WPARAM wParam, LPARAM lParam);
+
+  void PushCaption();
+  bool TakesInput() const { return shell_.gate.IsOpen(); }
+  Shell& shell() const { return shell_; }
+
+  /// The native control notifies of changes of our own making too.
+  bool pushing_ = false;
+
+ private:
+  static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
+                                    UINT_PTR id, DWORD_PTR self) noexcept;
+  void EnableNative();
+
+  Control& control_;
+  HWND window_;
+  Shell& shell_;
+};
+
+}  // namespace ui
