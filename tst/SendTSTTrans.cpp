@@ -95,7 +95,6 @@ void SendTSTTrans::ReadPickedTSTs(const TSTList& list) {
   records_.mco.blnMultTST = true;
   if (list.count < 2) return;
   SelectTSTFromList(list.segments, list.tstNumbers, list.persons, list.fops);
-  if (stop_.isSet) return;
   selectedTSTArray_ = selection_.getStrArraySelectedTSTs();
   for (int row = 1; row <= list.segments.UpperBound() && !stop_.isSet; ++row) {
     const std::wstring& tstNumber = RowOf(list.tstNumbers, row);

@@ -3,8 +3,6 @@
 namespace tst {
 namespace {
 
-namespace operations = hostlib::operations;
-
 const std::wstring kNoTST =
     L"48 The PNR contains no active TST.\rMake sure there is a TST record available and restart "
     L"the script.";
@@ -157,9 +155,17 @@ TEST(ReadTSTList, TheRowsOfTheListAreReadOneByOne) {
             }));
 }
 
-TEST(ReadTSTList, TheTSTOfAListOfOneCountsAsFoundWhateverItsDisplaySays) {
+TEST(ReadTSTList, TheTSTOfAListOfOneCountsAsFoundWhateverTheDisplaysSay) {
   SelectionBench bench;
   bench.HasList({{.number = L"1"}});
+  const hostlib::TextArray one{.items = {L"1"}, .lowerBound = 1};
+  bench.Answers(L"TQT SHOWN", bench.scripted.Bag({{L"blnKeyTST", false},
+                                                  {L"blnKeyTSTList", true},
+                                                  {L"intKeyNoOfTST", L"1"},
+                                                  {L"strKeyTSTSegment()", one},
+                                                  {L"strKeyPersonNbrArray()", one},
+                                                  {L"strKeyTSTNumArray()", one},
+                                                  {L"strKeyFOPArray()", one}}));
   bench.Answers(L"TQT/T1 SHOWN", bench.scripted.Bag({{L"blnKeyTST", false}}));
   bench.room.ReadTSTList();
   EXPECT_EQ(bench.ReportedBoxes(), Lines{});
@@ -185,131 +191,6 @@ TEST(ReadTSTList, AListThatCountsNothingReadsNothing) {
   EXPECT_TRUE(bench.mco.blnMultTST);
   EXPECT_EQ(bench.Sent(), kListSent);
   EXPECT_EQ(bench.ReportedBoxes(), Lines{});
-}
-
-TEST(ReadTSTList, TwoTSTsAlwaysShowTheDialog) {
-  SelectionBench bench;
-  bench.HasList({{.number = L"1"}, {.number = L"2"}});
-  bench.AgentPicks({0});
-  bench.room.ReadTSTList();
-  EXPECT_EQ(bench.desktop.log,
-            (Lines{L"modal frmSelectTST", L"close frmSelectTST", L"show frmWorking"}));
-  EXPECT_TRUE(bench.mco.blnMultTST);
-}
-
-TEST(ReadTSTList, ThePickedTSTsAreDisplayedAndReadInListOrder) {
-  SelectionBench bench;
-  bench.HasList({{.number = L"1"}, {.number = L"2", .segment = L"4"}, {.number = L"3"}});
-  bench.AgentPicks({2, 0});
-  bench.room.ReadTSTList();
-  Lines sent = kListSent;
-  sent.push_back(L"TerminalSession.1.15 SendDisplay(\"TQT/T1\")");
-  sent.push_back(L"TerminalSession.1.15 SendDisplay(\"TQT/T3\")");
-  EXPECT_EQ(bench.Sent(), sent);
-  EXPECT_EQ(bench.Filed(), (Lines{L"1", L"3"}));
-  EXPECT_EQ(bench.room.SelectedTSTNumbers(), L"1,3");
-  EXPECT_EQ(bench.room.SelectedTSTArray(), (Lines{L"1", L"3"}));
-  EXPECT_EQ(bench.mco.strSegAsso, L"2-3");
-  EXPECT_EQ(bench.general.strSegAsso, L"2-3");
-}
-
-TEST(ReadTSTList, TheDisplayOfAPickedTSTIsNotReadAsAList) {
-  SelectionBench bench;
-  bench.HasList({{.number = L"1"}, {.number = L"2"}});
-  bench.AgentPicks({0, 1});
-  bench.room.ReadTSTList();
-  const Lines way = bench.TakeWay();
-  EXPECT_EQ(std::ranges::count_if(
-                way, [](const auto& line) { return line.starts_with(L"TstListRequest.1.10"); }),
-            1);
-}
-
-TEST(ReadTSTList, TwentyTSTsAreReadInOrder) {
-  SelectionBench bench;
-  std::vector<ListedTST> rows;
-  std::vector<int> picked;
-  Lines numbers;
-  for (int i = 1; i <= 20; ++i) {
-    rows.push_back({.number = std::to_wstring(i), .persons = std::to_wstring(i)});
-    picked.push_back(i - 1);
-    numbers.push_back(std::to_wstring(i));
-  }
-  bench.HasList(rows);
-  bench.AgentPicks(picked);
-  bench.room.ReadTSTList();
-  EXPECT_EQ(bench.Filed(), numbers);
-  EXPECT_EQ(bench.mco.strFare, L"SEK20000");
-  EXPECT_EQ(bench.totals.strTotalFareFirstTST, L"SEK1160");
-  EXPECT_EQ(bench.totals.strTotalFareLastTSTs, L"SEK22040");
-}
-
-TEST(ReadTSTList, RowsWithoutSegmentsAreNotRead) {
-  SelectionBench bench;
-  bench.HasList({{.number = L"1", .segment = L""}, {.number = L"2", .segment = L""}});
-  bench.AgentPicks({0, 1});
-  bench.room.ReadTSTList();
-  EXPECT_EQ(bench.Filed(), Lines{});
-  EXPECT_EQ(bench.Sent(), kListSent);
-  EXPECT_EQ(bench.ReportedBoxes(), Lines{});
-  EXPECT_EQ(bench.room.SelectedTSTNumbers(), L"1,2");
-}
-
-TEST(ReadTSTList, ARowOfOtherSegmentsThanTheFirstOnesIsPassedOver) {
-  // Alike in the six characters that the dialog compares.
-  SelectionBench bench;
-  bench.HasList({{.number = L"1", .segment = L"2,3,4,5"},
-                 {.number = L"2", .segment = L"2,3,4,6"},
-                 {.number = L"3", .segment = L"2,3,4,5"}});
-  bench.AgentPicks({0, 1, 2});
-  bench.room.ReadTSTList();
-  EXPECT_EQ(bench.Filed(), (Lines{L"1", L"3"}));
-  EXPECT_EQ(bench.mco.strSegAsso, L"2,3,4,5");
-}
-
-TEST(ReadTSTList, ASegmentAssociationThatIsThereAlreadyDecides) {
-  SelectionBench bench;
-  bench.HasList({{.number = L"1"}, {.number = L"2"}});
-  bench.mco.strSegAsso = L"9";
-  bench.AgentPicks({0, 1});
-  bench.room.ReadTSTList();
-  EXPECT_EQ(bench.Filed(), Lines{});
-  EXPECT_EQ(bench.general.strSegAsso, L"");
-}
-
-TEST(ReadTSTList, APickedNumberThatIsNotInTheListAsItStandsIsIgnored) {
-  // The dialog reads its rows back trimmed; the list is compared exactly.
-  SelectionBench bench;
-  bench.HasList({{.number = L" 1"}, {.number = L"2"}});
-  bench.AgentPicks({0, 1});
-  bench.room.ReadTSTList();
-  EXPECT_EQ(bench.Filed(), Lines{L"2"});
-}
-
-TEST(ReadTSTList, ATSTThatIsListedTwiceCannotBeFiledTwice) {
-  SelectionBench bench;
-  bench.HasList({{.number = L"1"}, {.number = L"1"}});
-  bench.AgentPicks({0});
-  bench.room.ReadTSTList();
-  EXPECT_EQ(bench.ReportedBoxes(), Lines{L"16 Error when reading the current TQT Response!"});
-  EXPECT_EQ(bench.Filed(), Lines{L"1"});
-  EXPECT_TRUE(bench.stop.isSet);
-}
-
-TEST(ReadTSTList, CancelInTheDialogEndsTheRun) {
-  SelectionBench bench;
-  bench.HasList({{.number = L"1"}, {.number = L"2"}});
-  bench.desktop.inModal = [&](ui::Form&) { bench.selection.cmdCancel.Clicked(); };
-  EXPECT_THROW(bench.room.ReadTSTList(), support::EndedByEndScript);
-  EXPECT_EQ(bench.Sent(), kListSent);
-  EXPECT_EQ(bench.ReportedBoxes(), Lines{});
-}
-
-TEST(ReadTSTList, TheCloseBoxOfTheDialogEndsTheRun) {
-  SelectionBench bench;
-  bench.HasList({{.number = L"1"}, {.number = L"2"}});
-  bench.desktop.inModal = [](ui::Form& form) { form.OnCloseBox(); };
-  EXPECT_THROW(bench.room.ReadTSTList(), support::EndedByEndScript);
-  EXPECT_EQ(bench.Sent(), kListSent);
 }
 
 TEST(ReadTSTList, WithoutATSTTheAgentIsToldAndTheRunIsToStop) {
@@ -339,86 +220,6 @@ TEST(ReadTSTList, TheNoTSTReportHasTheNumber41) {
   EXPECT_TRUE(std::ranges::any_of(calls, [](const std::wstring& line) {
     return line.starts_with(L"ScriptErrorReporter.1.18 ShowError(-2147221463, ");
   }));
-}
-
-TEST(ReadTSTList, AMissingAirlineIsTakenFromTheFirstFlight) {
-  SelectionBench bench;
-  bench.HasOneTST({.firstFlightNo = L"LH3012", .fv = L""});
-  bench.room.ReadTSTList();
-  EXPECT_EQ(bench.mco.strAirlineCode, L"LH");
-}
-
-TEST(ReadTSTList, AnAirlineThatIsThereIsKept) {
-  SelectionBench bench;
-  bench.HasOneTST({.firstFlightNo = L"LH3012"});
-  bench.room.ReadTSTList();
-  EXPECT_EQ(bench.mco.strAirlineCode, L"SK");
-}
-
-TEST(ReadTSTList, ThePassengerAssociationIsRewrittenOnce) {
-  SelectionBench bench;
-  bench.HasOneTST({.names = L"1.A/A MR2.B/B MR3.C/C MR"});
-  bench.pnrNames = {L"1.A/A MR", L"2.B/B MR", L"3.C/C MR"};
-  bench.room.ReadTSTList();
-  EXPECT_EQ(bench.mco.strPasAsso, L"1-3");
-  EXPECT_EQ(bench.TakeCalls().back(), L"ScriptGlobal.1.22 FormatAssociation(\"1,2,3\") -> \"1-3\"");
-}
-
-TEST(ReadTSTList, JoinedSegmentsBecomeNone) {
-  SelectionBench bench;
-  bench.HasList({{.number = L"1", .segment = L"2 + 3"}, {.number = L"2", .segment = L"2 + 3"}});
-  bench.AgentPicks({0, 1});
-  bench.room.ReadTSTList();
-  EXPECT_EQ(bench.mco.strSegAsso, L"");
-  EXPECT_EQ(bench.general.strSegAsso, L"2 + 3");
-  EXPECT_EQ(bench.Filed(), (Lines{L"1", L"2"}));
-}
-
-TEST(ReadTSTList, AReissueWithTotal0GetsItsTotalComputed) {
-  SelectionBench bench;
-  bench.HasOneTST({.totalFare = L"SEK0", .isReissue = true});
-  bench.room.ReadTSTList();
-  EXPECT_EQ(bench.mco.strTotalFare, L"SEK1160");
-}
-
-TEST(ReadTSTList, AReissueWhoseTotalIsNoNumberGetsItComputedToo) {
-  SelectionBench bench;
-  bench.HasOneTST({.totalFare = L"NO ADC", .isReissue = true});
-  bench.room.ReadTSTList();
-  EXPECT_EQ(bench.mco.strTotalFare, L"SEK1160");
-}
-
-TEST(ReadTSTList, AReissueWithATotalKeepsIt) {
-  SelectionBench bench;
-  bench.HasOneTST({.totalFare = L"SEK90", .isReissue = true});
-  bench.room.ReadTSTList();
-  EXPECT_EQ(bench.mco.strTotalFare, L"SEK90");
-}
-
-TEST(ReadTSTList, Total0WithoutAReissueStays0) {
-  SelectionBench bench;
-  bench.HasOneTST({.totalFare = L"SEK0"});
-  bench.room.ReadTSTList();
-  EXPECT_EQ(bench.mco.strTotalFare, L"SEK0");
-}
-
-TEST(ReadTSTList, TheLastListCommandAndResponseAreKept) {
-  SelectionBench bench;
-  bench.HasList({{.number = L"1"}, {.number = L"2"}});
-  bench.AgentPicks({1});
-  bench.room.ReadTSTList();
-  EXPECT_EQ(bench.room.LastTransaction(), L"TQT/T2");
-  EXPECT_EQ(bench.room.CurrentResponse(), L"TQT/T2 SHOWN");
-}
-
-TEST(ReadTSTList, EveryBagAndRequestIsReleased) {
-  SelectionBench bench;
-  bench.HasList({{.number = L"1"}, {.number = L"2"}});
-  bench.AgentPicks({0, 1});
-  bench.global.ToText({});
-  const int before = bench.recorder.LiveObjects();
-  bench.room.ReadTSTList();
-  EXPECT_EQ(bench.recorder.LiveObjects(), before);
 }
 
 }  // namespace

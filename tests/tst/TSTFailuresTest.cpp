@@ -106,6 +106,7 @@ TEST(TSTFailures, FailingNamesStopTheReadingOfTheTST) {
   bench.scripted.Fail(operations::pnr_reader::kCountNameElements, 77, L"gone");
   bench.room.ReadTSTList();
   EXPECT_EQ(bench.Boxes(), Lines{L"last error"});
+  EXPECT_EQ(bench.TakeCalls().back(), L"ScriptErrorReporter.1.11 ReportLastError()");
   EXPECT_EQ(bench.Filed(), Lines{});
   EXPECT_EQ(bench.mco.strFare, L"");
   EXPECT_TRUE(bench.stop.isSet);
@@ -141,7 +142,7 @@ TEST(TSTFailures, ASumThatDoesNotFitLeavesTheTSTUnfiled) {
   EXPECT_EQ(bench.Filed(), Lines{L"1"});
 }
 
-TEST(TSTFailures, AFailingAssociationIsReported) {
+TEST(TSTFailures, AnAnswerThatCannotBeReadIsReported) {
   FailureBench bench;
   bench.scripted.Fail(operations::tst_list_request::kReadResponse, 77, L"gone");
   bench.room.ReadTSTList();
