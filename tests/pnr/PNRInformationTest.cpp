@@ -223,6 +223,15 @@ TEST(GetPNRInformation, AnOpenFirstSegmentGivesTheCities) {
   EXPECT_EQ(Only(L"PnrReader.2.7", bench.TakeCalls()).size(), 1U);
 }
 
+TEST(GetPNRInformation, ASingleSegmentGivesTheCities) {
+  ReadingBench bench;
+  bench.Has(reader::kCountSegments, reader::kGetSegment,
+            {ReadingBench::Segment(L"SK1234 Y 15MAR OSLCPH HK1", L"OSL", L"CPH")});
+  bench.room.GetPNRInformation();
+  EXPECT_EQ(bench.pnr.strOrigin, L"OSL");
+  EXPECT_EQ(bench.pnr.strDestination, L"CPH");
+}
+
 TEST(GetPNRInformation, WithoutSegmentsOriginAndDestinationStayEmpty) {
   ReadingBench bench;
   bench.scripted.Answer(reader::kCountSegments, std::int16_t{0});

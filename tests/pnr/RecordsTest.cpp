@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "tests/pnr/PNRBench.h"
 
 namespace pnr {
