@@ -18,7 +18,8 @@ class SessionLost : public common::RunTimeError {
 struct Faults {
   std::map<int, std::wstring> refusals;  ///< entries refused with this reason, not looked at
   std::map<int, std::wstring> garbage;   ///< entries taken, but answered with this
-  int dropFrom = 0;                      ///< from this entry on nothing arrives; 0: never
+  int dropFrom = 0;                      ///< from this entry on the session is lost; 0: never
+  bool dropAnswerOnly = false;           ///< the first lost entry is taken, its answer is lost
   std::function<void(int entry)> slow;   ///< called before every entry; may take its time
 };
 

@@ -32,7 +32,10 @@ bool IsOneOf(std::wstring_view code, std::initializer_list<std::wstring_view> co
 std::wstring Host::Enter(std::wstring_view entry) {
   const int number = ++entries_;
   if (faults.slow) faults.slow(number);
-  if (faults.dropFrom > 0 && number >= faults.dropFrom) throw SessionLost();
+  if (faults.dropFrom > 0 && number >= faults.dropFrom) {
+    if (faults.dropAnswerOnly && number == faults.dropFrom) Answer(entry);
+    throw SessionLost();
+  }
   const auto refusal = faults.refusals.find(number);
   std::wstring answer =
       refusal == faults.refusals.end() ? Answer(entry) : L"REFUSED: " + refusal->second;
@@ -90,15 +93,15 @@ bool Host::ExecuteDisplay(const Words& words, std::wstring& answer) {
     NotUnderstood(syntax::Join(words, L" "));
   }
   if (code == L"PV") {
-    answer = displays::OfficeDisplay(office_);
+    answer = displays::OfficeDisplay(scene_.office);
   } else if (code == L"TQTP") {
-    answer = displays::TstOverview(Shown(), listTst_);
+    answer = displays::TstOverview(Shown(), scene_.listTst);
   } else if (code == L"TQT") {
     answer = count == 2 ? displays::TstDisplay(Active(), Active().TstAt(number))
-                        : displays::TstOverview(Active(), listTst_);
+                        : displays::TstOverview(Active(), scene_.listTst);
   } else {
     answer = count == 2 ? displays::TsmDisplay(Active(), Active().TsmAt(number))
-                        : displays::TsmOverview(Active(), listTsm_);
+                        : displays::TsmOverview(Active(), scene_.listTsm);
   }
   if (redisplay) answer += std::wstring(displays::kLineEnd) + displays::PnrDisplay(Active());
   return true;
@@ -110,7 +113,7 @@ std::wstring Host::ChangeElements(std::wstring_view entry) {
   if (pieces.size() > 1 && pieces.back().empty()) pieces.pop_back();
   const bool opens = !active_;
   Pnr copy = opens ? Pnr() : pnr_;
-  if (opens) copy.office = office_;
+  if (opens) copy.office = scene_.office;
   for (std::size_t i = 0; i < pieces.size(); ++i) {
     try {
       if (!IsElementEntry(pieces[i])) NotUnderstood(pieces[i]);
@@ -156,7 +159,7 @@ std::wstring Host::Reread() {
 
 // Documents that are on their way come with the re-read that they were told for.
 void Host::IssueDocuments() {
-  for (PendingDocument& pending : pending_) {
+  for (PendingDocument& pending : scene_.pending) {
     if (pending.locator != pnr_.locator || --pending.rereads != 0) continue;
     Pnr& stored = stored_[pending.locator];
     const std::vector<int> segments = stored.Ids(Kind::kMco);
@@ -201,7 +204,7 @@ std::wstring Host::Print(const Words& words) {
   } else {
     ExecuteDisplay({words[1]}, text);
   }
-  if (!printerOn_) throw Refused{L"THE PRINTER IS OFF"};
+  if (!scene_.printerOn) throw Refused{L"THE PRINTER IS OFF"};
   printed_.push_back(std::move(text));
   return L"PRINTED " + words[1];
 }

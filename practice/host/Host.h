@@ -31,8 +31,8 @@ class Host {
   std::wstring Enter(std::wstring_view entry);
 
   /// Takes the lines of a booking as entries, one a line ("#" begins a comment line), and leaves
-  /// its PNR active; stored, when the booking gives it a record locator. Throws BookingError; the
-  /// lines before the refused one have then taken effect.
+  /// its PNR active; stored, when the booking gives it a record locator. What an earlier booking
+  /// set the scene with is forgotten. Throws BookingError and leaves no PNR active.
   void LoadBooking(std::wstring_view text);
 
   Faults faults;
@@ -57,6 +57,14 @@ class Host {
     int mco;
     std::wstring number;
     int rereads;
+  };
+  /// What trainer's entries set, for one booking.
+  struct Scene {
+    std::wstring office = L"ARNAG2100";
+    bool printerOn = true;
+    bool listTst = false;
+    bool listTsm = false;
+    std::vector<PendingDocument> pending;
   };
 
   std::wstring Answer(std::wstring_view entry);
@@ -87,12 +95,8 @@ class Host {
   bool changed_ = false;
   bool known_ = false;  ///< there was a PNR
   int locators_ = 0;
-  std::wstring office_ = L"ARNAG2100";
-  bool printerOn_ = true;
-  bool listTst_ = false;
-  bool listTsm_ = false;
+  Scene scene_;
   Queues queues_;
-  std::vector<PendingDocument> pending_;
   std::vector<std::wstring> printed_;
   std::vector<std::wstring> backOffice_;
   int entries_ = 0;

@@ -29,9 +29,9 @@ std::wstring Host::Train(const Words& words) {
     changed_ = true;
   } else if (what == L"OFFICE" && words.size() == 3) {
     if (!syntax::IsOffice(words[2])) throw Refused{L"NO OFFICE " + words[2]};
-    office_ = words[2];
+    scene_.office = words[2];
   } else if (what == L"PRINTER" && words.size() == 3) {
-    printerOn_ = ReadSwitch(words[2]);
+    scene_.printerOn = ReadSwitch(words[2]);
   } else if (what == L"LIST" && words.size() == 4) {
     TrainList(words);
   } else if (what == L"QUEUE") {
@@ -47,9 +47,9 @@ std::wstring Host::Train(const Words& words) {
 void Host::TrainList(const Words& words) {
   const bool on = ReadSwitch(words[3]);
   if (words[2] == L"TST") {
-    listTst_ = on;
+    scene_.listTst = on;
   } else if (words[2] == L"TSM") {
-    listTsm_ = on;
+    scene_.listTsm = on;
   } else {
     throw Refused{L"LIST: TST OR TSM"};
   }
@@ -66,11 +66,14 @@ void Host::TrainDocument(const Words& words) {
   if (static_cast<std::size_t>(mco) > pnr_.Ids(Kind::kMco).size()) {
     throw Refused{L"NO MCO " + words[2]};
   }
-  pending_.push_back({pnr_.locator, mco, words[3], rereads});
+  scene_.pending.push_back({pnr_.locator, mco, words[3], rereads});
 }
 
 void Host::LoadBooking(std::wstring_view text) {
   active_ = changed_ = false;
+  scene_ = {};
+  queues_.OpenAll();
+  if (text.starts_with(L'\xFEFF')) text.remove_prefix(1);
   int number = 0;
   for (std::wstring& line : syntax::Split(text, L'\n')) {
     ++number;
@@ -80,6 +83,7 @@ void Host::LoadBooking(std::wstring_view text) {
       bool display = false;
       Execute(line, display);
     } catch (const Refused& refused) {
+      active_ = false;
       throw BookingError(number, refused.why);
     }
   }
