@@ -3,12 +3,26 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <stdexcept>
 
 #include "common/Text.h"
+#include "practice/host/Syntax.h"
 
 namespace run {
+namespace {
+
+std::string PathOf(const std::string& booking, const std::string& extension) {
+  return "practice/pnrs/" + booking + extension;
+}
+
+bool ProjectHas(const std::string& path) {
+  return std::filesystem::exists(std::string(PTA_SOURCE_DIR) + "/" + path);
+}
+
+}  // namespace
 
 std::wstring ReadProjectFile(const std::string& path) {
   std::ifstream file(std::string(PTA_SOURCE_DIR) + "/" + path, std::ios::binary);
@@ -24,6 +38,27 @@ practice::RehearsalScene OrdinaryScene() {
   scene.agent = ReadProjectFile("practice/pnrs/ordinary.agent");
   return scene;
 }
+
+practice::RehearsalScene SceneOf(const std::string& booking) {
+  practice::RehearsalScene scene;
+  scene.booking = ReadProjectFile(PathOf(booking, ".pnr"));
+  const std::string ini = PathOf(booking, ".ini");
+  scene.ini = ReadProjectFile(ProjectHas(ini) ? ini : PathOf("ordinary", ".ini"));
+  if (HasAgent(booking)) scene.agent = ReadProjectFile(PathOf(booking, ".agent"));
+  return scene;
+}
+
+std::vector<std::string> BookingNames() {
+  std::vector<std::string> names;
+  for (const auto& file :
+       std::filesystem::directory_iterator(std::string(PTA_SOURCE_DIR) + "/practice/pnrs")) {
+    if (file.path().extension() == ".pnr") names.push_back(file.path().stem().string());
+  }
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
+bool HasAgent(const std::string& booking) { return ProjectHas(PathOf(booking, ".agent")); }
 
 void Change(std::wstring& text, std::wstring_view from, std::wstring_view to) {
   ASSERT_TRUE(common::Contains(text, from)) << common::ToUtf8(from);
@@ -58,6 +93,28 @@ Lines CallsOf(const practice::RehearsalOutcome& outcome, std::wstring_view opera
 
 bool Holds(const Lines& lines, std::wstring_view line) {
   return std::find(lines.begin(), lines.end(), line) != lines.end();
+}
+
+Lines BoxesIn(const practice::RehearsalOutcome& outcome) {
+  Lines boxes;
+  for (const std::wstring& line : outcome.seen) {
+    if (line.starts_with(L"box ")) boxes.push_back(line);
+  }
+  return boxes;
+}
+
+Lines LinesOf(const std::wstring& text) {
+  return practice::syntax::Split(common::Replace(text, L"\r\n", L"\n"), L'\n');
+}
+
+Lines NewElements(const practice::RehearsalOutcome& outcome) {
+  Lines elements;
+  for (const std::wstring& entry : outcome.EntryTexts()) {
+    if (!entry.ends_with(L";")) continue;
+    const Lines pieces = practice::syntax::Split(entry, L';');
+    elements.insert(elements.end(), pieces.begin(), pieces.end() - 1);
+  }
+  return elements;
 }
 
 }  // namespace run

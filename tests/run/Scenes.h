@@ -15,6 +15,14 @@ std::wstring ReadProjectFile(const std::string& path);
 /// The ordinary booking with its INI file and its agent.
 practice::RehearsalScene OrdinaryScene();
 
+/// A booking of practice/pnrs by its name, with the agent beside it, if any, and with the INI file
+/// beside it, else the ordinary one.
+practice::RehearsalScene SceneOf(const std::string& booking);
+/// The names of all bookings in practice/pnrs, sorted.
+std::vector<std::string> BookingNames();
+/// There is a written agent beside the booking.
+bool HasAgent(const std::string& booking);
+
 /// The same with a piece of a text replaced; the piece must be there.
 void Change(std::wstring& text, std::wstring_view from, std::wstring_view to);
 /// One INI key of the ordinary office, replaced or added.
@@ -26,5 +34,11 @@ practice::RehearsalOutcome RehearseInAgreement(const practice::RehearsalScene& s
 /// The calls of one object's operation, e.g. "TerminalSession.1.33".
 Lines CallsOf(const practice::RehearsalOutcome& outcome, std::wstring_view operation);
 bool Holds(const Lines& lines, std::wstring_view line);
+/// The boxes that the agent saw, with their answers.
+Lines BoxesIn(const practice::RehearsalOutcome& outcome);
+/// The lines of a display text.
+Lines LinesOf(const std::wstring& text);
+/// The entry that brings the new elements, cut at its ";"; empty when none was sent.
+Lines NewElements(const practice::RehearsalOutcome& outcome);
 
 }  // namespace run
