@@ -87,7 +87,6 @@ void SendTSTTrans::ReplaceByItsOnlyTST(TSTList& list) {
   const ParameterBag answer = request.ReadResponse(currentResponse_);
   list.found = true;
   list.isList = global_.FlagIn(answer, L"blnKeyTSTList");
-  list.count = 1;
   selectedTSTs_ = global_.TextIn(answer, L"strKeyTSTNum");
 }
 

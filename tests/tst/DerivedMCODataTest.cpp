@@ -37,6 +37,14 @@ TEST(DerivedMCOData, JoinedSegmentsBecomeNone) {
   EXPECT_EQ(bench.Filed(), (Lines{L"1", L"2"}));
 }
 
+TEST(DerivedMCOData, ABlankAtTheEndDoesNotJoinSegments) {
+  SelectionBench bench;
+  bench.HasOneTST({});
+  bench.mco.strSegAsso = L"2 + ";
+  bench.room.ReadTSTList();
+  EXPECT_EQ(bench.mco.strSegAsso, L"2 + ");
+}
+
 TEST(DerivedMCOData, AReissueWithTotal0GetsItsTotalComputed) {
   SelectionBench bench;
   bench.HasOneTST({.totalFare = L"SEK0", .isReissue = true});

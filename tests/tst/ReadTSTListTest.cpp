@@ -129,6 +129,25 @@ TEST(ReadTSTList, AListOfOneIsFetchedByNumberWithoutTheDialog) {
   EXPECT_EQ(bench.mco.strSegAsso, L"");
 }
 
+TEST(ReadTSTList, EveryDisplayHasABagAndARequestOfItsOwn) {
+  SelectionBench bench;
+  bench.HasList({{.number = L"1"}});
+  bench.global.ToText({});
+  bench.recorder = hostlib::Recorder(hostlib::Recorder::Objects::kShow);
+  bench.room.ReadTSTList();
+  Lines made;
+  for (const std::wstring& line : bench.TakeCalls()) {
+    if (line.starts_with(L"+ ") || line.find(L" Send") != line.npos) made.push_back(line);
+  }
+  // The second bag of each display is the answer.
+  EXPECT_EQ(Lines(made.begin(), made.begin() + 9),
+            (Lines{L"+ TstListRequest", L"TerminalSession.1.11 SendEntry(\"TQT\") -> \"DONE\"",
+                   L"+ ParameterBag", L"+ TstListRequest",
+                   L"TerminalSession.1.15 SendDisplay(\"TQT\") -> \"TQT SHOWN\"", L"+ ParameterBag",
+                   L"+ ParameterBag", L"+ TstListRequest",
+                   L"TerminalSession.1.15 SendDisplay(\"TQT/T1\") -> \"TQT/T1 SHOWN\""}));
+}
+
 TEST(ReadTSTList, TheRowsOfTheListAreReadOneByOne) {
   SelectionBench bench;
   bench.HasList({{.number = L"7", .persons = L"2"}});

@@ -58,6 +58,13 @@ TEST(SelectTSTFromList, WithoutAnOKNothingIsSelected) {
   EXPECT_EQ(bench.room.SelectedTSTNumbers(), L"");
 }
 
+TEST(SelectTSTFromList, AnInvalidChoiceAloneSelectsNothing) {
+  ThreeRows bench;
+  bench.AgentPicks({0, 1});
+  bench.Select();
+  EXPECT_EQ(bench.room.SelectedTSTNumbers(), L"");
+}
+
 TEST(SelectTSTFromList, TheProgressFormComesBackUnderTheProgramsTitle) {
   ThreeRows bench;
   bench.AgentPicks({0});

@@ -149,6 +149,24 @@ TEST(TSTFailures, AnAnswerThatCannotBeReadIsReported) {
   EXPECT_EQ(bench.Boxes(), Lines{L"16 Error when verifying the TQT Response!"});
 }
 
+TEST(TSTFailures, AReadingThatFailsAtOnceLeavesNothingOfTheOneBefore) {
+  FailureBench bench;
+  bench.room.ReadTSTList();
+  ASSERT_EQ(bench.Filed().size(), 2U);
+  bench.scripted.Fail(operations::tst_list_request::kBuildListCommand, 77, L"gone");
+  bench.room.ReadTSTList();
+  EXPECT_EQ(bench.Filed(), Lines{});
+  EXPECT_EQ(bench.room.CurrentResponse(), L"");
+  EXPECT_EQ(bench.room.LastTransaction(), L"");
+}
+
+TEST(TSTFailures, TheListCommandIsKeptEvenWhenTheHostDoesNotAnswer) {
+  FailureBench bench;
+  bench.scripted.Fail(operations::terminal_session::kSendEntry, 77, L"gone");
+  bench.room.ReadTSTList();
+  EXPECT_EQ(bench.room.LastTransaction(), L"TQT");
+}
+
 TEST(TSTFailures, EverythingHeldIsReleased) {
   FailureBench bench;
   bench.scripted.Fail(operations::tst_detail_request::kReadFareElements, 77, L"gone");

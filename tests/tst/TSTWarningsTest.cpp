@@ -111,6 +111,14 @@ TEST(TSTWarnings, CancelAtTheSalesIndicatorEndsTheRun) {
   EXPECT_EQ(bench.OwnBoxes(), Lines{Box(kSales, 1, 2)});
 }
 
+TEST(TSTWarnings, OnlyAnOKSilencesAWarning) {
+  DetailBench bench;
+  bench.desktop.answers = {common::kCancel};
+  EXPECT_THROW(bench.Read({.salesIndicator = L"SITO"}), EndedByEndScript);
+  bench.Read({.salesIndicator = L"SITO"});
+  EXPECT_EQ(bench.OwnBoxes(), (Lines{Box(kSales, 1, 2), Box(kSales, 1, 1)}));
+}
+
 TEST(TSTWarnings, TheUsualSalesIndicatorsAndNoneAreFine) {
   DetailBench bench;
   for (const wchar_t* indicator : {L"SOTI", L"SITI", L""}) {
