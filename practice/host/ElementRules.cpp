@@ -191,7 +191,7 @@ SegmentParts PartsOf(std::wstring_view segmentText) {
 std::wstring McoField(std::wstring_view mcoText, std::wstring_view name) {
   const std::vector<std::wstring> fields = Split(mcoText, L',');
   for (std::size_t i = 1; i < fields.size(); ++i) {
-    if (fields[i].starts_with(name)) return fields[i].substr(3);
+    if (fields[i].starts_with(std::wstring(name) + L" ")) return fields[i].substr(3);
   }
   return {};
 }

@@ -33,7 +33,6 @@ bool AddRange(std::wstring_view piece, std::vector<int>& numbers) {
   const int first = NumberIn(piece.substr(0, dash));
   const int last = dash == piece.npos ? first : NumberIn(piece.substr(dash + 1));
   if (first < 1 || last < first || static_cast<std::size_t>(last) > kMostNumbers) return false;
-  if (!numbers.empty() && first <= numbers.back()) return false;
   for (int number = first; number <= last; ++number) numbers.push_back(number);
   return true;
 }
@@ -134,6 +133,8 @@ std::optional<std::vector<int>> ReadNumbers(std::wstring_view text) {
   for (const std::wstring& piece : Split(text, L',')) {
     if (!AddRange(piece, numbers)) return std::nullopt;
   }
+  std::sort(numbers.begin(), numbers.end());
+  numbers.erase(std::unique(numbers.begin(), numbers.end()), numbers.end());
   return numbers;
 }
 

@@ -40,7 +40,8 @@ bool IsLocator(std::wstring_view text);
 /// SMITH/JOHN MR
 bool IsPersonName(std::wstring_view text);
 
-/// Numbers in ascending order out of 2,3,4 or 2-4,7; nothing when it is no such list.
+/// The numbers of a list such as 2-4,7 or 7,3,3: each once, in ascending order, since agents write
+/// them in the order of their fares. Nothing when it is no such list.
 std::optional<std::vector<int>> ReadNumbers(std::wstring_view text);
 /// The display's form: runs of two and more are shortened, 2-4,7.
 std::wstring NumbersText(std::vector<int> numbers);

@@ -33,6 +33,10 @@ std::wstring FirstLine(std::wstring_view answer) {
   return LinesOf(answer.substr(0, answer.find(L'\n'))).front().substr(0, kLongestMessage);
 }
 
+std::wstring FirstWord(std::wstring_view text) {
+  return std::wstring(text.substr(0, text.find(L' ')));
+}
+
 std::wstring ValueOf(const std::vector<std::wstring>& lines, std::wstring_view label) {
   const std::vector<std::wstring> values = ValuesOf(lines, label);
   return values.empty() ? std::wstring() : values.front();

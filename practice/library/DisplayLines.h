@@ -16,6 +16,9 @@ std::optional<std::vector<std::wstring>> DisplayIn(std::wstring_view answer,
 /// The first line, cut to what fits a message.
 std::wstring FirstLine(std::wstring_view answer);
 
+/// The text up to its first blank.
+std::wstring FirstWord(std::wstring_view text);
+
 /// What stands behind "LABEL " in the first line that begins so; "" when there is none.
 std::wstring ValueOf(const std::vector<std::wstring>& lines, std::wstring_view label);
 std::vector<std::wstring> ValuesOf(const std::vector<std::wstring>& lines, std::wstring_view label);

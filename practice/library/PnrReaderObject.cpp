@@ -5,6 +5,7 @@
 namespace practice::objects {
 namespace {
 
+using display_lines::FirstWord;
 using hostlib::Arguments;
 using hostlib::ObjectPtr;
 using hostlib::Operation;
@@ -17,8 +18,6 @@ std::wstring DisplayCode(const std::wstring& asked) {
   if (asked == L"OSI") return L"OS";
   return asked;
 }
-
-std::wstring FirstWord(const std::wstring& text) { return text.substr(0, text.find(L' ')); }
 
 std::wstring AfterFirstWord(const std::wstring& text) {
   const std::size_t blank = text.find(L' ');

@@ -14,6 +14,11 @@ using hostlib::Value;
 using Lines = std::vector<std::wstring>;
 
 constexpr std::size_t kListFields = 8;
+constexpr int kHighestNumber = 999;
+
+bool IsSmall(const std::wstring& number) {
+  return syntax::IsNumber(number) && syntax::NumberIn(number) <= kHighestNumber;
+}
 
 std::int16_t Small(const std::wstring& number) {
   return static_cast<std::int16_t>(syntax::NumberIn(number));
@@ -34,7 +39,7 @@ struct Columns {
 // "2,1,R,L,SMITH/JOHN MR,SEK,1160,CASH"
 bool AddRow(Columns& columns, const std::wstring& line) {
   const Lines fields = syntax::Split(line, L',');
-  if (fields.size() != kListFields) return false;
+  if (fields.size() != kListFields || !IsSmall(fields[0]) || !IsSmall(fields[1])) return false;
   columns.m.items.push_back(Small(fields[0]));
   columns.p.items.push_back(Small(fields[1]));
   columns.r.items.push_back(fields[2]);

@@ -12,6 +12,8 @@ using hostlib::Value;
 using Lines = std::vector<std::wstring>;
 namespace detail = hostlib::operations::tst_detail_request;
 
+constexpr int kHighestLine = 999;
+
 Lines TstLines(const std::wstring& response) {
   auto lines = display_lines::DisplayIn(response, L"TST ", L"END OF TST");
   if (!lines) RaiseFailure(kNoDisplay, L"The answer is no TST display");
@@ -19,7 +21,7 @@ Lines TstLines(const std::wstring& response) {
 }
 
 void ReadFare(const Lines& lines, ParameterBagObject& bag) {
-  bag.Set(L"strKeyTSTNum", syntax::Words(lines.front())[1]);
+  bag.Set(L"strKeyTSTNum", display_lines::FirstWord(ValueOf(lines, L"TST")));
   bag.Set(L"strKeyFare", ValueOf(lines, L"FARE"));
   bag.Set(L"strKeyFareIndicator", ValueOf(lines, L"IND"));
   bag.Set(L"strKeyEquivFare", ValueOf(lines, L"EQUIV"));
@@ -39,7 +41,7 @@ void ReadLinked(const Lines& lines, ParameterBagObject& bag, const std::wstring&
   const std::wstring value = ValueOf(lines, code);
   const std::size_t blank = value.find(L' ');
   const int number = syntax::NumberIn(value.substr(0, blank));
-  if (number < 0 || blank == value.npos) return;
+  if (number < 0 || number > kHighestLine || blank == value.npos) return;
   bag.Set(L"intKey" + code + L"ElementNumber", static_cast<std::int16_t>(number));
   bag.Set(L"strKey" + code + L"ElementValue", value.substr(blank + 1));
 }

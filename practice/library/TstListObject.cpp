@@ -1,4 +1,3 @@
-#include "practice/host/Syntax.h"
 #include "practice/library/Objects.h"
 
 namespace practice::objects {
@@ -35,7 +34,8 @@ class TstListObject : public PracticeObject {
     bag->Set(L"blnKeyTSTList", list.has_value());
     bag->Set(L"intKeyNoOfTST", static_cast<std::int16_t>(list ? list->size() - 1 : tst ? 1 : 0));
     if (list) ReadList(*list, *bag);
-    if (tst) bag->Set(L"strKeyTSTNum", syntax::Words(tst->front())[1]);
+    if (tst)
+      bag->Set(L"strKeyTSTNum", display_lines::FirstWord(display_lines::ValueOf(*tst, L"TST")));
     return ObjectPtr(bag);
   }
 
