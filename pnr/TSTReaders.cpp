@@ -39,6 +39,7 @@ std::vector<std::wstring_view> ElementsOf(std::wstring_view association) {
   return elements;
 }
 
+// The same association holds them all, in whatever form it is written.
 bool HoldsEveryElementOf(std::wstring_view association, std::wstring_view wanted) {
   const auto held = ElementsOf(association);
   return std::ranges::all_of(ElementsOf(wanted), [&](std::wstring_view element) {
@@ -50,8 +51,7 @@ bool PassengersMatch(std::wstring_view passengers, const tst::TSTInfo& tst) {
   if (passengers.empty()) return true;
   const bool infants = common::Contains(passengers, L"INF");
   if (tst.blnInf) return infants;
-  return !infants &&
-         (passengers == tst.strPasAsso || HoldsEveryElementOf(passengers, tst.strPasAsso));
+  return !infants && HoldsEveryElementOf(passengers, tst.strPasAsso);
 }
 
 bool SegmentsMatch(std::wstring_view segments, const tst::TSTGeneral& general) {
