@@ -106,10 +106,16 @@ TEST_F(HostElements, AssociationsWithWhatIsNotThereAreRefused) {
   ExpectRefused(L"RM A [P99]", L"NO PASSENGER 99");
   ExpectRefused(L"RM A [S1]", L"NO SEGMENT 1");
   ExpectRefused(L"RM A [INF P1]", L"NO INFANT WITH PASSENGER 1");
-  ExpectRefused(L"RM A [P2,1]", L"ASSOCIATION: [P1-2,4 S3]");
+  ExpectRefused(L"RM A [P2-1]", L"ASSOCIATION: [P1-2,4 S3]");
   ExpectRefused(L"RM A [Q1]", L"ASSOCIATION: [P1-2,4 S3]");
   ExpectRefused(L"TK OK [P1]", L"NO ASSOCIATION FOR TK");
   ExpectRefused(L"CH 2 SMITH/ANNA MRS [P1]", L"NO ASSOCIATION FOR NM");
+}
+
+TEST_F(HostElements, AssociationsMayNameLinesInAnyOrderAndTwice) {
+  EXPECT_THAT(host.Enter(L"RM A [P2,1]"), testing::HasSubstr(L" RM A [P1-2]\r\n"));
+  EXPECT_THAT(host.Enter(L"RM B [P1,1]"), testing::HasSubstr(L" RM B [P1]\r\n"));
+  EXPECT_THAT(host.Enter(L"RM C [P2,1-2]"), testing::HasSubstr(L" RM C [P1-2]\r\n"));
 }
 
 TEST_F(HostElements, NoInfantInThePnrIsRefused) {
