@@ -176,6 +176,37 @@ TEST(Form, UnloadingWhileTheFocusIsLostGivesItToNobody) {
   EXPECT_EQ(bench.form.ActiveControl(), nullptr);
 }
 
+/// Counts the forms that were destroyed under it.
+struct LastingView : FormView {
+  int gone = 0;
+  void ControlSet(Control&, Property) override {}
+  void FormSet(Form&) override {}
+  void FocusAsked(Control&) override {}
+  void FormClosed(Form&) override {}
+  void FormGone(Form&) override { ++gone; }
+};
+
+TEST(Form, AVisibleFormThatIsDestroyedTellsItsView) {
+  LastingView view;
+  {
+    WatchedForm form;
+    form.Load();
+    form.Shown(view);
+  }
+  EXPECT_EQ(view.gone, 1);
+}
+
+TEST(Form, AHiddenFormIsDestroyedUnnoticed) {
+  LastingView view;
+  {
+    WatchedForm form;
+    form.Load();
+    form.Shown(view);
+    form.Hide();
+  }
+  EXPECT_EQ(view.gone, 0);
+}
+
 TEST(Form, SettingsOfAFormWithoutADesktopAreKept) {
   FormBench bench;
   bench.form.SetCaption(L"Caption");
