@@ -47,6 +47,9 @@ REG
     env -u DISPLAY "$wine_loader" regedit /S "Z:${settings//\//\\}"
     "$wine_server" -w
   } >"$WINEPREFIX.log" 2>&1 </dev/null {wine_lock}>&-
+  # Debian's Wine looks for its own fonts in the prefix alone; without them every text is set in
+  # another, wider face.
+  ln -sf /usr/share/wine/fonts/*.{fon,ttf} "$WINEPREFIX/drive_c/windows/Fonts/"
   rm -f "$settings"
   touch "$WINEPREFIX/.ready"
 }

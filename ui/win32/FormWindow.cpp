@@ -7,6 +7,13 @@
 
 namespace ui {
 
+namespace {
+
+/// The icon that Windows itself takes for the program's: the first one.
+constexpr int kProgramIcon = 1;
+
+}  // namespace
+
 FormWindow::FormWindow(Form& form, HINSTANCE instance, HWND owner, Shell& shell)
     : form_(&form),
       shell_(shell),
@@ -15,6 +22,7 @@ FormWindow::FormWindow(Form& form, HINSTANCE instance, HWND owner, Shell& shell)
     throw common::RunTimeError(L"The window of " + form.name() + L" can not be made");
   }
   PutUpFrame();
+  UseProgramIcon(instance);
   for (Control* control : form.controls()) Bind(*control);
   SetWindowLongPtrW(handle(), DWLP_USER, reinterpret_cast<LONG_PTR>(this));
 }
@@ -42,6 +50,17 @@ void FormWindow::Bind(Control& control) {
 }
 
 void FormWindow::PutUpFrame() { SetWindowTextW(handle(), form_->Caption().c_str()); }
+
+void FormWindow::UseProgramIcon(HINSTANCE instance) {
+  const auto load = [&](int width, int height) {
+    return LoadImageW(instance, MAKEINTRESOURCEW(kProgramIcon), IMAGE_ICON, GetSystemMetrics(width),
+                      GetSystemMetrics(height), LR_SHARED);
+  };
+  SendMessageW(handle(), WM_SETICON, ICON_SMALL,
+               reinterpret_cast<LPARAM>(load(SM_CXSMICON, SM_CYSMICON)));
+  SendMessageW(handle(), WM_SETICON, ICON_BIG,
+               reinterpret_cast<LPARAM>(load(SM_CXICON, SM_CYICON)));
+}
 
 void FormWindow::Appear() {
   form_->Shown(*this);

@@ -46,6 +46,7 @@ class FormWindow : public FormView {
   INT_PTR HandleCommand(WPARAM wParam, LPARAM lParam);
   void Bind(Control& control);
   void PutUpFrame();
+  void UseProgramIcon(HINSTANCE instance);
   void Close();
   void AskToClose();
   bool SetPointer(LPARAM lParam);

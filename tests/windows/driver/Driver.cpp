@@ -90,11 +90,12 @@ class RemoteText {
 
 DriverError::DriverError(const std::wstring& what) : std::runtime_error(ToUtf8(what)) {}
 
-bool Holds(const std::function<bool()>& condition, std::chrono::milliseconds time) {
+bool Holds(const std::function<bool()>& condition, std::chrono::milliseconds time,
+           std::chrono::milliseconds between) {
   const auto end = std::chrono::steady_clock::now() + time;
   while (!condition()) {
     if (std::chrono::steady_clock::now() > end) return false;
-    std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    std::this_thread::sleep_for(between);
   }
   return true;
 }

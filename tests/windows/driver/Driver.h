@@ -20,7 +20,8 @@ class DriverError : public std::runtime_error {
 
 /// True as soon as the condition holds, false when it does not within the time.
 bool Holds(const std::function<bool()>& condition,
-           std::chrono::milliseconds time = std::chrono::seconds(20));
+           std::chrono::milliseconds time = std::chrono::seconds(20),
+           std::chrono::milliseconds between = std::chrono::milliseconds(5));
 /// Throws when it does not.
 void WaitUntil(std::wstring_view what, const std::function<bool()>& condition);
 

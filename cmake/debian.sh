@@ -1,0 +1,44 @@
+# What ./run and ./test share; to be sourced by Bash, in the root of the checkout.
+
+say() { printf '== %s\n' "$*"; }
+
+# install_missing PART...: installs the Debian packages of these parts that are not there yet.
+#   native    compiler, CMake, Ninja, ccache and GoogleTest's sources
+#   windows   the cross compiler, Wine with its fonts, a virtual display, ImageMagick
+#   checks    clang-format
+install_missing() {
+  local part package
+  local -a wanted=(cmake ninja-build ccache) missing=()
+  for part in "$@"; do
+    case $part in
+      native) wanted+=(g++ googletest) ;;
+      windows)
+        wanted+=(g++-mingw-w64-x86-64-posix googletest wine64 fonts-wine xvfb
+          imagemagick util-linux)
+        ;;
+      checks) wanted+=(clang-format git) ;;
+    esac
+  done
+  for package in "${wanted[@]}"; do
+    dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'ok installed' ||
+      missing+=("$package")
+  done
+  ((${#missing[@]} == 0)) && return
+  say "Installing the Debian packages that are missing: ${missing[*]}"
+  local -a as_root=()
+  if ((EUID != 0)); then
+    as_root=(sudo)
+    command -v sudo >/dev/null || { say "FAILED: neither root nor sudo to install them with"; exit 1; }
+  fi
+  "${as_root[@]}" apt-get -qq update
+  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq install -y \
+    --no-install-recommends "${missing[@]}" >/dev/null
+}
+
+# build_preset PRESET [TARGET...]
+build_preset() {
+  local preset=$1
+  shift
+  cmake --preset "$preset" >/dev/null
+  cmake --build --preset "$preset" ${1:+--target "$@"}
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+namespace driver {
+
+/// Saves what the screen shows of a window, frame included, as a BMP file.
+void SavePicture(HWND window, const std::wstring& path);
+/// The colour that the screen shows at a point within a window.
+COLORREF ColorAt(HWND window, int x, int y);
+
+}  // namespace driver

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace driver {
+
+/// A program that was started to be driven. Ended, if need be by force, when this goes.
+class Program {
+ public:
+  explicit Program(const std::wstring& path);
+  ~Program();
+  Program(const Program&) = delete;
+  Program& operator=(const Program&) = delete;
+
+  bool IsRunning() const;
+  /// Waits for its end and gives its exit code.
+  DWORD ExitCode() const;
+
+  /// Its visible top-level windows.
+  std::vector<HWND> Windows() const;
+  /// The one of them with a control of this number; null when there is none now.
+  HWND WindowWith(int controlId) const;
+  /// Its message box; null when there is none now.
+  HWND Box() const;
+
+  HWND WaitForWindowWith(int controlId) const;
+  HWND WaitForBox() const;
+
+ private:
+  PROCESS_INFORMATION process_ = {};
+};
+
+}  // namespace driver

@@ -1,0 +1,181 @@
+#include "tests/windows/driver/WindowAgent.h"
+
+#include <map>
+
+#include "tests/windows/driver/Driver.h"
+#include "tests/windows/driver/Picture.h"
+#include "ui/win32/ControlIds.h"
+#include "ui/win32/resource.h"
+
+namespace driver {
+
+namespace {
+
+/// A control that no other form has.
+const std::map<std::wstring, int> kMarks = {{L"frmWorking", ID_lblWorking},
+                                            {L"frmPTA", ID_txtPWCT},
+                                            {L"frmSelectMCO", ID_lstMCO},
+                                            {L"frmWaitForMCO", ID_lstMCOElements},
+                                            {L"frmSelectTST", ID_lstTST}};
+
+constexpr COLORREF kYellow = RGB(255, 255, 0);
+
+std::wstring WithLineBreaks(const std::wstring& text) {
+  std::wstring lines;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text[i] == L'\n' && i > 0 && text[i - 1] == L'\r') continue;
+    lines += text[i] == L'\r' ? L'\n' : text[i];
+  }
+  return lines;
+}
+
+bool HasStyle(HWND window, LONG style) { return (GetWindowLongW(window, GWL_STYLE) & style) != 0; }
+
+}  // namespace
+
+WindowAgent::WindowAgent(Program& program, std::vector<practice::AgentLine> script)
+    : program_(program), script_(std::move(script)) {}
+
+void WindowAgent::Work(const Look& look) {
+  look_ = look;
+  for (const practice::AgentLine& line : script_) {
+    try {
+      Perform(line);
+    } catch (const DriverError& error) {
+      throw DriverError(L"Line " + std::to_wstring(line.number) + L": " + ToWide(error.what()));
+    }
+  }
+}
+
+void WindowAgent::Perform(const practice::AgentLine& line) {
+  using Action = std::function<void()>;
+  const std::wstring name = line.Word(0);
+  const std::wstring text = line.Word(1);
+  const std::map<std::wstring, Action> actions = {
+      {L"form", [&] { ComeTo(name); }},
+      {L"box", [&] { AnswerBox(line); }},
+      {L"see", [&] { See(name, text); }},
+      {L"state", [&] { CheckState(name, text); }},
+      {L"focus", [&] { GoTo(Control(name)); }},
+      {L"type",
+       [&] {
+         GoTo(Control(name));
+         TypeOver(Control(name), text);
+       }},
+      {L"key",
+       [&] {
+         GoTo(Control(name));
+         Press(Control(name), VK_F1);
+       }},
+      {L"click",
+       [&] {
+         look_(form_, formName_);
+         Click(Control(name));
+       }},
+      {L"pick", [&] { Pick(Control(name), text); }},
+      {L"close", [&] { PostMessageW(form_, WM_SYSCOMMAND, SC_CLOSE, 0); }}};
+  const auto found = actions.find(line.verb);
+  if (found == actions.end()) throw DriverError(L"\"" + line.verb + L"\" is not known here");
+  found->second();
+}
+
+void WindowAgent::ComeTo(const std::wstring& form) {
+  WaitUntil(form + L" is there", [&] {
+    LookAtProgress();
+    form_ = program_.WindowWith(kMarks.at(form));
+    return (form_ != nullptr && IsWindowEnabled(form_) && FocusOf(form_) != nullptr) ||
+           program_.Box() != nullptr || !program_.IsRunning();
+  });
+  if (program_.Box() != nullptr) throw DriverError(L"A box says " + BoxText(program_.Box()));
+  if (!program_.IsRunning()) throw DriverError(L"The program has ended");
+  formName_ = form;
+  look_(form_, form);
+}
+
+void WindowAgent::LookAtProgress() {
+  const HWND working = program_.WindowWith(ID_lblWorking);
+  if (working == nullptr || seen_.contains(L"frmWorking")) return;
+  if (TextOf(working).empty()) return;  // it has not got its caption yet
+  seen_.insert(L"frmWorking");
+  look_(working, L"frmWorking");
+}
+
+void WindowAgent::AnswerBox(const practice::AgentLine& line) {
+  const HWND box = program_.WaitForBox();
+  look_(box, L"box");
+  if (BoxText(box) != WithLineBreaks(line.Word(1))) {
+    throw DriverError(L"The box says \"" + BoxText(box) + L"\"");
+  }
+  if (line.words.size() > 3 && TextOf(box) != line.Word(3)) {
+    throw DriverError(L"The box bears \"" + TextOf(box) + L"\"");
+  }
+  const HWND button = line.Word(0) == L"ok" ? OkButton(box) : Item(box, IDCANCEL);
+  WaitUntil(L"the box has the focus", [&] { return FocusOf(box) != nullptr; });
+  Click(button);
+  WaitUntil(L"the box is gone", [&] { return !IsWindow(box); });
+}
+
+void WindowAgent::See(const std::wstring& control, const std::wstring& text) {
+  if (Holds([&] { return TextIn(control) == text; }, std::chrono::seconds(5))) return;
+  throw DriverError(control + L" shows \"" + TextIn(control) + L"\" instead of \"" + text + L"\"");
+}
+
+std::wstring WindowAgent::TextIn(const std::wstring& control) const {
+  const HWND window = Control(control);
+  return GetDlgCtrlID(window) == ID_staStatusText ? StatusText(window) : TextOf(window);
+}
+
+void WindowAgent::CheckState(const std::wstring& control, std::wstring state) {
+  const bool wanted = !state.starts_with(L"not-");
+  if (!wanted) state.erase(0, 4);
+  const HWND window = Control(control);
+  if (Holds([&] { return Is(window, state) == wanted; }, std::chrono::seconds(5))) return;
+  throw DriverError(control + L" is " + (wanted ? L"not " : L"") + state);
+}
+
+bool WindowAgent::Is(HWND control, const std::wstring& state) const {
+  if (state == L"off") return !IsWindowEnabled(control);
+  if (state == L"ticked") return SendMessageW(control, BM_GETCHECK, 0, 0) == BST_CHECKED;
+  if (state == L"locked") return HasStyle(control, ES_READONLY);
+  if (state == L"focused") return FocusOf(control) == control;
+  if (state == L"yellow") return ColorAt(control, 2, 2) == kYellow;
+  throw DriverError(L"\"" + state + L"\" is no state");
+}
+
+void WindowAgent::GoTo(HWND control) {
+  constexpr int kMostTabs = 60;
+  for (int i = 0; i < kMostTabs; ++i) {
+    HWND focus = nullptr;
+    WaitUntil(L"the form has the focus", [&] {
+      focus = FocusOf(form_);
+      return focus != nullptr && GetAncestor(focus, GA_ROOT) == form_;
+    });
+    if (focus == control) return;
+    Press(focus, VK_TAB);
+    WaitUntil(L"the focus has moved on", [&] { return FocusOf(form_) != focus; });
+  }
+  throw DriverError(L"The Tab key does not come to " + std::to_wstring(GetDlgCtrlID(control)));
+}
+
+void WindowAgent::Pick(HWND list, const std::wstring& lines) {
+  GoTo(list);
+  const bool several = HasStyle(list, LBS_MULTIPLESEL);
+  int at = static_cast<int>(SendMessageW(list, LB_GETCARETINDEX, 0, 0)) + 1;
+  for (std::size_t from = 0; from < lines.size();) {
+    const int line = std::stoi(lines.substr(from));
+    for (; at < line; ++at) Press(list, VK_DOWN);
+    for (; at > line; --at) Press(list, VK_UP);
+    if (several) Press(list, VK_SPACE);
+    WaitUntil(L"the line is selected",
+              [&] { return SendMessageW(list, LB_GETSEL, static_cast<WPARAM>(line) - 1, 0) > 0; });
+    from = std::min(lines.find(L',', from), lines.size() - 1) + 1;
+  }
+}
+
+HWND WindowAgent::Control(const std::wstring& name) const {
+  const int id = ui::ControlId(name);
+  if (id == 0) throw DriverError(L"There is no control " + name);
+  return Item(form_, id);
+}
+
+}  // namespace driver
