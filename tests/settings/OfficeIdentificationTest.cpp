@@ -100,6 +100,20 @@ TEST(IdentifyOffice, ADateThatIsNotTodaysTextAsksTheHost) {
   }
 }
 
+class NoDateForm : public support::FixedPlatform {
+ public:
+  std::wstring ShortDateText(std::chrono::year_month_day) const override { return {}; }
+};
+
+TEST(IdentifyOffice, AnEmptyDateIsNeverToday) {
+  OfficeBench bench;
+  const NoDateForm platform;
+  OfficeIdentification office(bench.library, bench.global, bench.session, bench.errors, platform,
+                              bench.desktop, bench.ini);
+  office.IdentifyOffice();
+  EXPECT_TRUE(office.WasHostAsked());
+}
+
 TEST(IdentifyOffice, AnEmptyOfficeOfTodayIsTaken) {
   OfficeBench bench;
   bench.storedDate = L"2007-02-20";
