@@ -174,8 +174,7 @@ TEST_P(Commission, OfTheMCOIsShownWithoutItsStars) {
 
 INSTANTIATE_TEST_SUITE_P(RunSequence, Commission,
                          testing::Values(CommissionCase{L"*C*10", L"10"},
-                                         CommissionCase{L"9", L"9"},
-                                         CommissionCase{L"*C*7", L"7"},
+                                         CommissionCase{L"9", L"9"}, CommissionCase{L"*C*7", L"7"},
                                          CommissionCase{L"250A", L"250A"}));
 
 TEST(RunSequence, ACommissionWithOneStarTakesTheTSTsOwn) {

@@ -22,6 +22,31 @@ bool ProjectHas(const std::string& path) {
   return std::filesystem::exists(std::string(PTA_SOURCE_DIR) + "/" + path);
 }
 
+Lines::const_iterator FirstChange(const Lines& entries) {
+  return std::find_if(entries.begin(), entries.end(),
+                      [](const std::wstring& entry) { return entry.starts_with(L"CH "); });
+}
+
+// "12 RM TEXT" and "1.SMITH/JOHN MR" as "RM TEXT" and "SMITH/JOHN MR", up to the display's end.
+Lines UnnumberedLines(const std::wstring& pnrText) {
+  Lines lines;
+  for (const std::wstring& line :
+       practice::syntax::Split(common::Replace(pnrText, L"\r\n", L"\n"), L'\n')) {
+    const std::size_t digits = line.find_first_not_of(L"0123456789");
+    lines.push_back(digits == 0 ? line : line.substr(digits + 1));
+    if (line == L"END OF PNR") break;
+  }
+  return lines;
+}
+
+Lines Without(Lines lines, const Lines& others) {
+  for (const std::wstring& other : others) {
+    const auto found = std::find(lines.begin(), lines.end(), other);
+    if (found != lines.end()) lines.erase(found);
+  }
+  return lines;
+}
+
 }  // namespace
 
 std::wstring ReadProjectFile(const std::string& path) {
@@ -83,6 +108,10 @@ practice::RehearsalOutcome RehearseInAgreement(const practice::RehearsalScene& s
   return outcome;
 }
 
+practice::RehearsalOutcome RehearseBooking(const std::string& booking) {
+  return RehearseInAgreement(SceneOf(booking));
+}
+
 Lines CallsOf(const practice::RehearsalOutcome& outcome, std::wstring_view operation) {
   Lines lines;
   for (const std::wstring& call : outcome.calls) {
@@ -103,8 +132,18 @@ Lines BoxesIn(const practice::RehearsalOutcome& outcome) {
   return boxes;
 }
 
-Lines LinesOf(const std::wstring& text) {
-  return practice::syntax::Split(common::Replace(text, L"\r\n", L"\n"), L'\n');
+Lines ReadingEntries() {
+  return {L"RT", L"IR", L"RT", L"TQT", L"TQM RT", L"OS SK PTA", L"TQT", L"TQT"};
+}
+
+Lines EntriesBeforeWriting(const practice::RehearsalOutcome& outcome) {
+  const Lines entries = outcome.EntryTexts();
+  return {entries.begin(), FirstChange(entries)};
+}
+
+Lines EntriesOfWriting(const practice::RehearsalOutcome& outcome) {
+  const Lines entries = outcome.EntryTexts();
+  return {FirstChange(entries), entries.end()};
 }
 
 Lines NewElements(const practice::RehearsalOutcome& outcome) {
@@ -115,6 +154,14 @@ Lines NewElements(const practice::RehearsalOutcome& outcome) {
     elements.insert(elements.end(), pieces.begin(), pieces.end() - 1);
   }
   return elements;
+}
+
+Lines LinesAdded(const practice::RehearsalOutcome& outcome) {
+  return Without(UnnumberedLines(outcome.pnrAfter), UnnumberedLines(outcome.pnrBefore));
+}
+
+Lines LinesGone(const practice::RehearsalOutcome& outcome) {
+  return Without(UnnumberedLines(outcome.pnrBefore), UnnumberedLines(outcome.pnrAfter));
 }
 
 }  // namespace run

@@ -30,15 +30,25 @@ void SetIni(practice::RehearsalScene& scene, const std::wstring& key, const std:
 
 /// Rehearses and fails the test when run and agent disagree, or objects are left behind.
 practice::RehearsalOutcome RehearseInAgreement(const practice::RehearsalScene& scene);
+/// The same for a booking with what lies beside it.
+practice::RehearsalOutcome RehearseBooking(const std::string& booking);
 
 /// The calls of one object's operation, e.g. "TerminalSession.1.33".
 Lines CallsOf(const practice::RehearsalOutcome& outcome, std::wstring_view operation);
 bool Holds(const Lines& lines, std::wstring_view line);
 /// The boxes that the agent saw, with their answers.
 Lines BoxesIn(const practice::RehearsalOutcome& outcome);
-/// The lines of a display text.
-Lines LinesOf(const std::wstring& text);
-/// The entry that brings the new elements, cut at its ";"; empty when none was sent.
+/// What the run sends while it reads, with one MCO and one fare and no OSI for SK.
+Lines ReadingEntries();
+/// The entries of a run that got as far as writing: up to its first change, and from there on.
+Lines EntriesBeforeWriting(const practice::RehearsalOutcome& outcome);
+Lines EntriesOfWriting(const practice::RehearsalOutcome& outcome);
+/// The entries that bring new elements, cut at their ";".
 Lines NewElements(const practice::RehearsalOutcome& outcome);
+
+/// The lines of the PNR's display that the run brought, without their numbers, in order.
+Lines LinesAdded(const practice::RehearsalOutcome& outcome);
+/// The lines that it replaced or removed.
+Lines LinesGone(const practice::RehearsalOutcome& outcome);
 
 }  // namespace run
