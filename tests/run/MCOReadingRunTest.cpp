@@ -129,5 +129,16 @@ INSTANTIATE_TEST_SUITE_P(
                                   false}),
     [](const auto& shown) { return shown.param.name; });
 
+TEST(FareElementsRun, AnElementOfInfantsIsNoneOfTheAdultWhoStandsInItsList) {
+  auto scene = SceneOf("fare-elements");
+  Change(scene.booking, L"NM SMITH/JOHN MR", L"NM SMITH/JANE MRS(INFSMITH/TINY)");
+  Change(scene.booking, L"SALES SITI [PAX P1 S3-4]", L"SALES SITI [PAX P2 S3-4]");
+  Change(scene.booking, L"SALES SITI [INF P1 S3-4]", L"SALES SITI [INF P1-2 S3-4]");
+  // Twice for the two infants it can be kept; once more for the adult it would be too large.
+  Change(scene.booking, L"FS NET 80 SELL 95 TOUR IT7SK3 [INF P1]", L"FS NET 999999999 [INF P1-2]");
+  Change(scene.agent, L"see txtPTA \"SEK1100/", L"see txtPTA \"SEK1200/");
+  RehearseInAgreement(scene);
+}
+
 }  // namespace
 }  // namespace run
