@@ -1,0 +1,87 @@
+#include "practice/terminal/Desk.h"
+
+#include <algorithm>
+
+#include "practice/library/PnrDisplayText.h"
+
+namespace practice::terminal {
+namespace {
+
+constexpr wchar_t kGarbage[] = L"#?*QX 00/00 %% ---";
+// A transcript of this many characters is a long day's work; the oldest half goes then.
+constexpr std::size_t kLongestTranscript = 1'000'000;
+
+}  // namespace
+
+Desk::Desk(Host& host) : host_(host) {
+  host_.listener = [this](std::wstring_view entry, std::wstring_view answer) {
+    Note(L"> " + std::wstring(entry) + L"\r\n" + std::wstring(answer) + L"\r\n\r\n");
+  };
+}
+
+Desk::~Desk() { host_.listener = nullptr; }
+
+void Desk::LoadBooking(std::wstring_view booking, std::wstring_view name) {
+  booking_.clear();
+  host_.LoadBooking(booking);
+  booking_ = name;
+  Note(L"--- Practice booking " + booking_ + L" ---\r\n\r\n");
+}
+
+void Desk::Enter(std::wstring_view entry) {
+  try {
+    host_.Enter(entry);
+  } catch (const SessionLost&) {
+    Note(L"> " + std::wstring(entry) + L"\r\n(no answer: the session to the host is lost)\r\n\r\n");
+  }
+}
+
+void Desk::RefuseNext(std::wstring_view reason) { host_.faults.refusals[Next()] = reason; }
+
+void Desk::GarbleNext() { host_.faults.garbage[Next()] = kGarbage; }
+
+void Desk::DropSession(bool answerOnly) {
+  host_.faults.dropFrom = Next();
+  host_.faults.dropAnswerOnly = answerOnly;
+}
+
+void Desk::SlowDown(std::function<void()> wait) {
+  host_.faults.slow = [wait = std::move(wait)](int) { wait(); };
+}
+
+bool Desk::IssueDocument() {
+  const auto pnr = ReadPnrDisplay(PnrText());
+  if (!pnr) return false;
+  const std::vector<const PnrLine*> mcos = pnr->All(L"MCO");
+  const auto missing = std::find_if(mcos.begin(), mcos.end(), [](const PnrLine* mco) {
+    return mco->text.find(L",FA ") == std::wstring::npos;
+  });
+  if (missing == mcos.end()) return false;
+  const std::wstring number = std::to_wstring(missing - mcos.begin() + 1);
+  Enter(L"TR FA " + number + L" 117-401234567" + number.back() + L" AFTER 1");
+  return true;
+}
+
+void Desk::BehaveWell() { host_.faults = {}; }
+
+std::wstring Desk::FaultText() const {
+  const Faults& faults = host_.faults;
+  if (faults.dropFrom > 0) return L"session lost";
+  std::wstring text;
+  const auto add = [&text](const wchar_t* fault) {
+    if (!text.empty()) text += L", ";
+    text += fault;
+  };
+  if (faults.refusals.contains(Next())) add(L"refuses the next entry");
+  if (faults.garbage.contains(Next())) add(L"garbles the next answer");
+  if (faults.slow) add(L"slow");
+  return text;
+}
+
+void Desk::Note(std::wstring text) {
+  if (transcript_.size() > kLongestTranscript) transcript_.erase(0, kLongestTranscript / 2);
+  transcript_ += text;
+  if (onTranscript) onTranscript(text);
+}
+
+}  // namespace practice::terminal

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "practice/host/Host.h"
+
+namespace practice::terminal {
+
+/// The trainer's desk: opens bookings, types entries, makes the host misbehave, and keeps the
+/// transcript of all that the host was asked and answered.
+class Desk {
+ public:
+  explicit Desk(Host& host);
+  ~Desk();
+  Desk(const Desk&) = delete;
+  Desk& operator=(const Desk&) = delete;
+
+  /// Throws BookingError.
+  void LoadBooking(std::wstring_view booking, std::wstring_view name);
+  /// An entry as the agent types it; the answer goes into the transcript, as every other.
+  void Enter(std::wstring_view entry);
+
+  // Misbehaviour: of the next entry, or from it on. A new one leaves the earlier ones.
+  void RefuseNext(std::wstring_view reason);
+  void GarbleNext();
+  /// The session is lost at the next entry; it may be the answer alone that is lost.
+  void DropSession(bool answerOnly);
+  /// `wait` is called before every entry.
+  void SlowDown(std::function<void()> wait);
+  bool IsSlow() const { return static_cast<bool>(host_.faults.slow); }
+  /// The first MCO without a document gets one when the PNR is read again. False when every MCO
+  /// has one, or there is no PNR.
+  bool IssueDocument();
+  void BehaveWell();
+
+  std::wstring PnrText() const { return host_.PnrText(); }
+  const std::wstring& transcript() const { return transcript_; }
+  const std::wstring& booking() const { return booking_; }
+  /// What the host was told to do wrong; "" when nothing.
+  std::wstring FaultText() const;
+
+  /// Told what came to the transcript.
+  std::function<void(std::wstring_view added)> onTranscript;
+
+ private:
+  void Note(std::wstring text);
+  int Next() const { return host_.EntryCount() + 1; }
+
+  Host& host_;
+  std::wstring transcript_;
+  std::wstring booking_;
+};
+
+}  // namespace practice::terminal

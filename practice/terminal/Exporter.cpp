@@ -1,0 +1,82 @@
+#include "practice/terminal/Exporter.h"
+
+#include <algorithm>
+
+#include "practice/terminal/ComObject.h"
+
+namespace practice::terminal {
+namespace {
+
+/// An object of a client's, such as those it attaches with. The library asks nothing of it.
+class ForeignObject : public hostlib::Object {
+ public:
+  std::wstring_view ClassName() const override { return L"Object of another program"; }
+  hostlib::Value Call(int, const hostlib::Arguments&) override { Refuse(); }
+  hostlib::ObjectPtr Interface(int) override { Refuse(); }
+
+ private:
+  [[noreturn]] static void Refuse() {
+    throw hostlib::LibraryError(DISP_E_MEMBERNOTFOUND, L"Practice library",
+                                L"The object does not belong to the library");
+  }
+};
+
+}  // namespace
+
+Exporter::Exporter(const TypeLibrary& types, ProcessLife& life)
+    : types_(types),
+      life_(life),
+      passage_{[this](const hostlib::ObjectPtr& object) { return Export(object).Detach(); },
+               Import} {}
+
+ComPtr<IDispatch> Exporter::Export(const hostlib::ObjectPtr& object) {
+  ComPtr<IDispatch> result;
+  if (object == nullptr) return result;
+  const LibraryClass* kind = FindClass(object->ClassName());
+  if (kind == nullptr) {
+    throw hostlib::LibraryError(REGDB_E_CLASSNOTREG, L"Practice library",
+                                std::wstring(object->ClassName()) + L" can not be handed out");
+  }
+  auto* made = new ComObject(*this, object, *kind);
+  const HRESULT found = made->QueryInterface(IID_PPV_ARGS(&result));
+  made->Release();
+  if (FAILED(found)) throw hostlib::LibraryError(found, L"Practice library", L"No interface");
+  return result;
+}
+
+hostlib::ObjectPtr Exporter::Import(IUnknown* object) {
+  if (object == nullptr) return nullptr;
+  ComPtr<IExported> exported;
+  if (SUCCEEDED(object->QueryInterface(kExportedId, &exported))) return exported->Target();
+  return std::make_shared<ForeignObject>();
+}
+
+int Exporter::Live() const {
+  return static_cast<int>(std::count_if(live_.begin(), live_.end(), [](const ComObject* object) {
+    return object->kind().use != ClassUse::kHidden;
+  }));
+}
+
+void Exporter::DisconnectAll() {
+  std::vector<ComPtr<IExported>> objects;
+  for (ComObject* object : live_) objects.emplace_back(object);
+  for (const auto& object : objects) CoDisconnectObject(object.Get(), 0);
+}
+
+void Exporter::Began(ComObject& object) {
+  life_.Hold();
+  live_.insert(&object);
+  Changed();
+}
+
+void Exporter::Ended(ComObject& object) {
+  live_.erase(&object);
+  Changed();
+  life_.LetGo();
+}
+
+void Exporter::Changed() const {
+  if (onChange) onChange(Live());
+}
+
+}  // namespace practice::terminal

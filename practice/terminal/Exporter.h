@@ -1,0 +1,53 @@
+#pragma once
+
+#include <functional>
+#include <set>
+
+#include "hostlib/Object.h"
+#include "practice/terminal/ProcessLife.h"
+#include "practice/terminal/TypeLibrary.h"
+#include "practice/terminal/Variants.h"
+
+namespace practice::terminal {
+
+class ComObject;
+
+/// Hands the library's objects out as COM objects, knows them again, and counts them.
+class Exporter {
+ public:
+  Exporter(const TypeLibrary& types, ProcessLife& life);
+  Exporter(const Exporter&) = delete;
+  Exporter& operator=(const Exporter&) = delete;
+
+  /// A new COM object for it, with one reference; null for a null object. Throws LibraryError when
+  /// the type library does not describe the object's class.
+  ComPtr<IDispatch> Export(const hostlib::ObjectPtr& object);
+  /// An object that this process handed out, or one that answers no call; null for null.
+  static hostlib::ObjectPtr Import(IUnknown* object);
+
+  const ObjectPassage& passage() const { return passage_; }
+  const TypeLibrary& types() const { return types_; }
+  ProcessLife& life() { return life_; }
+
+  /// How many objects of scripts have not been released.
+  int Live() const;
+  /// Told after every change of the number.
+  std::function<void(int live)> onChange;
+
+  /// Takes every object away from its clients, whose calls fail from then on.
+  void DisconnectAll();
+
+  // An object's own beginning and end; between them it keeps the process.
+  void Began(ComObject& object);
+  void Ended(ComObject& object);
+
+ private:
+  void Changed() const;
+
+  const TypeLibrary& types_;
+  ProcessLife& life_;
+  ObjectPassage passage_;
+  std::set<ComObject*> live_;
+};
+
+}  // namespace practice::terminal

@@ -1,0 +1,48 @@
+#include "practice/terminal/OfferedLibrary.h"
+
+#include "practice/library/PracticeObject.h"
+
+namespace practice::terminal {
+namespace {
+
+using hostlib::Arguments;
+using hostlib::Value;
+
+constexpr std::wstring_view kDeskClass = L"PracticeDesk";
+
+/// The desk by slots, as any object of the library.
+class DeskObject : public PracticeObject {
+ public:
+  DeskObject(Desk& desk, const Exporter& exporter) : PracticeObject(kDeskClass, nullptr) {
+    OnSlot(7, [&exporter](const Arguments&) {
+      return Value(static_cast<std::int32_t>(exporter.Live()));
+    });
+    OnSlot(8, [&desk](const Arguments& a) {
+      desk.LoadBooking(a[0].Text(), L"of a program");
+      return Value();
+    });
+    OnSlot(9, [&desk](const Arguments&) { return Value(desk.PnrText()); });
+    OnSlot(10, [&desk](const Arguments&) { return Value(desk.transcript()); });
+    OnSlot(11, [&desk](const Arguments& a) {
+      desk.RefuseNext(a[0].Text());
+      return Value();
+    });
+    OnSlot(12, [&desk](const Arguments& a) {
+      desk.DropSession(a[0].Flag());
+      return Value();
+    });
+    OnSlot(13, [&desk](const Arguments&) {
+      desk.BehaveWell();
+      return Value();
+    });
+  }
+};
+
+}  // namespace
+
+hostlib::ObjectPtr OfferedLibrary::Create(std::wstring_view className) {
+  if (className == kDeskClass) return std::make_shared<DeskObject>(desk_, exporter_);
+  return library_.Create(className);
+}
+
+}  // namespace practice::terminal

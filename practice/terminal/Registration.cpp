@@ -1,0 +1,77 @@
+#include "practice/terminal/Registration.h"
+
+#include <array>
+
+#include "practice/terminal/ComObject.h"
+
+// The headers of the compiler lack these two.
+extern "C" {
+HRESULT WINAPI RegisterTypeLibForUser(ITypeLib* library, OLECHAR* path, OLECHAR* helpFolder);
+HRESULT WINAPI UnRegisterTypeLibForUser(REFGUID id, WORD major, WORD minor, LCID locale,
+                                        SYSKIND system);
+}
+
+namespace practice::terminal {
+namespace {
+
+constexpr wchar_t kClasses[] = L"Software\\Classes\\";
+constexpr SYSKIND kSystem = sizeof(void*) == 8 ? SYS_WIN64 : SYS_WIN32;
+
+std::wstring IdText(REFGUID id) {
+  std::array<wchar_t, 40> text = {};
+  StringFromGUID2(id, text.data(), static_cast<int>(text.size()));
+  return text.data();
+}
+
+std::wstring ProgId(const LibraryClass& kind) { return L"Vantel." + std::wstring(kind.name); }
+
+bool Write(HKEY root, const std::wstring& key, const std::wstring& text) {
+  const auto bytes = static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t));
+  return RegSetKeyValueW(root, (kClasses + key).c_str(), nullptr, REG_SZ, text.c_str(), bytes) ==
+         ERROR_SUCCESS;
+}
+
+bool IsFound() {
+  CLSID found = {};
+  return SUCCEEDED(CLSIDFromProgID(L"Vantel.ScriptGlobal", &found));
+}
+
+}  // namespace
+
+bool Registration::WriteClasses(HKEY root) const {
+  bool written = true;
+  const std::wstring library = IdText(types_.Id());
+  for (const LibraryClass& kind : LibraryClasses()) {
+    if (kind.use == ClassUse::kNonCreatable) continue;
+    const std::wstring id = L"CLSID\\" + IdText(kind.id);
+    const std::wstring title = L"Vantel practice " + std::wstring(kind.name);
+    written = written && Write(root, ProgId(kind), title) &&
+              Write(root, ProgId(kind) + L"\\CLSID", IdText(kind.id)) && Write(root, id, title) &&
+              Write(root, id + L"\\LocalServer32", L"\"" + program_ + L"\"") &&
+              Write(root, id + L"\\ProgID", ProgId(kind)) &&
+              Write(root, id + L"\\TypeLib", library);
+  }
+  return written;
+}
+
+bool Registration::Register() const {
+  std::wstring path = program_;
+  WriteClasses(HKEY_CURRENT_USER);
+  RegisterTypeLibForUser(&types_.library(), path.data(), nullptr);
+  if (IsFound()) return true;
+  WriteClasses(HKEY_LOCAL_MACHINE);
+  return SUCCEEDED(RegisterTypeLib(&types_.library(), path.data(), nullptr)) && IsFound();
+}
+
+void Registration::Unregister() const {
+  for (const HKEY root : {HKEY_CURRENT_USER, HKEY_LOCAL_MACHINE}) {
+    for (const LibraryClass& kind : LibraryClasses()) {
+      RegDeleteTreeW(root, (kClasses + ProgId(kind)).c_str());
+      RegDeleteTreeW(root, (kClasses + (L"CLSID\\" + IdText(kind.id))).c_str());
+    }
+  }
+  UnRegisterTypeLibForUser(types_.Id(), 1, 0, LOCALE_NEUTRAL, kSystem);
+  UnRegisterTypeLib(types_.Id(), 1, 0, LOCALE_NEUTRAL, kSystem);
+}
+
+}  // namespace practice::terminal

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "practice/terminal/TypeLibrary.h"
+
+namespace practice::terminal {
+
+/// This program's entries in the registry, by which scripts find its classes: for the user, and for
+/// the whole machine where the system does not look at the user's own.
+class Registration {
+ public:
+  explicit Registration(const TypeLibrary& types) : types_(types), program_(ProgramPath()) {}
+
+  /// False when the classes cannot be found afterwards.
+  bool Register() const;
+  void Unregister() const;
+
+ private:
+  bool WriteClasses(HKEY root) const;
+
+  const TypeLibrary& types_;
+  std::wstring program_;
+};
+
+}  // namespace practice::terminal
