@@ -1,34 +1,12 @@
 #include "mco/frmSelectMCO.h"
 
-#include <algorithm>
+#include <utility>
 
 #include "common/ConstDefintions.h"
 #include "common/Numbers.h"
-#include "common/Text.h"
+#include "ui/controls/SelectionRow.h"
 
 namespace mco {
-namespace {
-
-constexpr int kMCOWidth = 9;
-constexpr int kPersonWidth = 9;
-constexpr int kFOPWidth = 26;
-
-constexpr int kPersonColumn = 1 + kMCOWidth;
-constexpr int kFOPColumn = kPersonColumn + kPersonWidth;
-constexpr int kSegmentColumn = kFOPColumn + kFOPWidth;
-
-// Never a whole column of blanks: after an empty field the line stands one position early, and is
-// read back so.
-std::wstring Column(std::wstring_view field, int width) {
-  const int blanks = std::min(width - common::Length(field), width - 1);
-  return std::wstring(field) + common::Space(blanks);
-}
-
-std::wstring ReadColumn(std::wstring_view line, int column, int width) {
-  return common::Trim(common::Mid(line, column, width));
-}
-
-}  // namespace
 
 frmSelectMCO::frmSelectMCO() : Form(L"frmSelectMCO") {
   SetCaption(std::wstring(common::kTitle) + L"- MCO Record list");
@@ -53,11 +31,8 @@ void frmSelectMCO::Populate(const TSMInfo& tsm) {
 
 void frmSelectMCO::addMCOtoList(std::wstring_view tsm, std::wstring_view segments,
                                 std::wstring_view person, std::wstring_view fop) {
-  std::wstring line = Column(tsm, kMCOWidth);
-  line += Column(person, kPersonWidth);
-  line += Column(fop, kFOPWidth);
-  line += segments;
-  lstMCO.Add(line);
+  lstMCO.Add(ui::RowText(
+      {std::wstring(tsm), std::wstring(person), std::wstring(fop), std::wstring(segments)}));
 }
 
 void frmSelectMCO::OnCloseBox() { Unload(); }
@@ -74,11 +49,11 @@ void frmSelectMCO::ForgetChoice() {
 void frmSelectMCO::TakeChoice() {
   const int index = lstMCO.ListIndex();
   if (index < 0) return;
-  const std::wstring& line = lstMCO.Items()[static_cast<std::size_t>(index)].text;
-  strSelectedMCO = ReadColumn(line, 1, kMCOWidth);
-  strSelectedPerson = ReadColumn(line, kPersonColumn, kPersonWidth);
-  strSelectedFOP = ReadColumn(line, kFOPColumn, kFOPWidth);
-  strSelectedSegment = common::Trim(common::Mid(line, kSegmentColumn));
+  ui::SelectionRow row = ui::ReadRow(lstMCO.Items()[static_cast<std::size_t>(index)].text);
+  strSelectedMCO = std::move(row.number);
+  strSelectedPerson = std::move(row.persons);
+  strSelectedFOP = std::move(row.fop);
+  strSelectedSegment = std::move(row.segments);
   intSelectedIndex = static_cast<std::int16_t>(index);
   blnOK = true;
   Unload();

@@ -2,9 +2,13 @@
 
 #include "common/ConstDefintions.h"
 #include "common/Text.h"
+#include "ui/controls/SelectionRow.h"
 
 namespace tst {
 namespace {
+
+// Only the beginning of the segments says which belong together.
+constexpr int kSegmentsCompared = 6;
 
 std::wstring Heading() {
   return L"TST" + common::Space(14) + L"P" + common::Space(16) + L"FOP" + common::Space(45) +
@@ -38,7 +42,7 @@ void frmSelectTST::ForgetChoice() {
 
 void frmSelectTST::addTSTtoList(std::wstring_view tstNumber, std::wstring_view segment,
                                 std::wstring_view persons, std::wstring_view fop) {
-  lstTST.Add(RowText(
+  lstTST.Add(ui::RowText(
       {std::wstring(tstNumber), std::wstring(persons), std::wstring(fop), std::wstring(segment)}));
 }
 
@@ -64,11 +68,11 @@ void frmSelectTST::OnOK() {
 void frmSelectTST::CollectSelectedRows() {
   for (const ui::ListBox::Item& item : lstTST.Items()) {
     if (!item.selected) continue;
-    SelectionRow row = ReadRow(item.text);
-    strTSTNumbers.push_back(std::move(row.tstNumber));
+    ui::SelectionRow row = ui::ReadRow(item.text, kSegmentsCompared);
+    strTSTNumbers.push_back(std::move(row.number));
     strPersons.push_back(std::move(row.persons));
     strFOPs.push_back(std::move(row.fop));
-    strSegments.push_back(std::move(row.segment));
+    strSegments.push_back(std::move(row.segments));
   }
 }
 

@@ -5,7 +5,6 @@
 
 #include "common/EndOfRun.h"
 #include "common/MessageBoxes.h"
-#include "tst/SelectionRow.h"
 #include "ui/controls/Form.h"
 
 namespace tst {

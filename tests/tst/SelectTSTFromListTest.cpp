@@ -1,9 +1,11 @@
 #include "tests/tst/SelectionBench.h"
+#include "ui/controls/SelectionRow.h"
 
 namespace tst {
 namespace {
 
 using hostlib::TextArray;
+using ui::RowText;
 
 TextArray Rows(std::vector<std::wstring> items) {
   return {.items = std::move(items), .lowerBound = 1};

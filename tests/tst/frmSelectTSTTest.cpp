@@ -63,8 +63,9 @@ TEST(frmSelectTST, SeveralRowsCanBeSelected) {
 TEST(frmSelectTST, ARowShowsNumberPersonsFormOfPaymentAndSegments) {
   DialogBench bench;
   bench.form.addTSTtoList(L"1", L"2-3", L"4", L"CASH");
-  EXPECT_EQ(bench.form.lstTST.Items().front().text,
-            RowText({.tstNumber = L"1", .persons = L"4", .fop = L"CASH", .segment = L"2-3"}));
+  EXPECT_EQ(
+      bench.form.lstTST.Items().front().text,
+      L"1" + common::Space(8) + L"4" + common::Space(8) + L"CASH" + common::Space(22) + L"2-3");
 }
 
 TEST(frmSelectTST, OKWithAValidChoiceKeepsTheFieldsAndHidesTheDialog) {

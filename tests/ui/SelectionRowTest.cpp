@@ -1,8 +1,10 @@
+#include <gtest/gtest.h>
+
 #include "common/RunTimeError.h"
 #include "common/Text.h"
-#include "tst/SelectionRow.h"
+#include "ui/controls/SelectionRow.h"
 
-namespace tst {
+namespace ui {
 namespace {
 
 using common::Space;
@@ -49,27 +51,43 @@ TEST(SelectionRow, AFormOfPaymentLongerThanItsColumnIsAFailure) {
   EXPECT_THROW(RowText({L"1", L"1", std::wstring(27, L'C'), L"2-3"}), common::RunTimeError);
 }
 
-TEST(SelectionRow, TheSegmentsAreShownWholeAndReadToSixCharacters) {
+TEST(SelectionRow, TheSegmentsAreShownWhole) {
+  const std::wstring segments(200, L'S');
+  EXPECT_EQ(RowText({L"1", L"1", L"CASH", segments}).substr(44), segments);
+}
+
+TEST(SelectionRow, TheSegmentsAreReadToTheirEndOrToTheWidthAskedFor) {
   const std::wstring text = RowText({L"1", L"1", L"CASH", L"2-3,5-7"});
-  EXPECT_TRUE(text.ends_with(L"2-3,5-7"));
-  EXPECT_EQ(ReadRow(text).segment, L"2-3,5-");
+  EXPECT_EQ(ReadRow(text).segments, L"2-3,5-7");
+  EXPECT_EQ(ReadRow(text, 6).segments, L"2-3,5-");
+}
+
+TEST(SelectionRow, FieldsThatFillTheirColumnsAreReadBackWhole) {
+  const std::wstring nine(9, L'N');
+  const std::wstring persons(9, L'P');
+  const std::wstring fop(26, L'F');
+  const SelectionRow row = ReadRow(RowText({nine, persons, fop, L"2"}));
+  EXPECT_EQ(row.number, nine);
+  EXPECT_EQ(row.persons, persons);
+  EXPECT_EQ(row.fop, fop);
+  EXPECT_EQ(row.segments, L"2");
 }
 
 TEST(SelectionRow, TheFieldsAreReadBackTrimmed) {
   const SelectionRow row = ReadRow(RowText({L" 1", L" 2 ", L"CC VI ", L" 2-3"}));
-  EXPECT_EQ(row.tstNumber, L"1");
+  EXPECT_EQ(row.number, L"1");
   EXPECT_EQ(row.persons, L"2");
   EXPECT_EQ(row.fop, L"CC VI");
-  EXPECT_EQ(row.segment, L"2-3");
+  EXPECT_EQ(row.segments, L"2-3");
 }
 
 TEST(SelectionRow, ARowWithAnEmptyFieldIsReadBackMoved) {
   const SelectionRow row = ReadRow(RowText({L"1", L"", L"CASH", L"2-3"}));
-  EXPECT_EQ(row.tstNumber, L"1");
+  EXPECT_EQ(row.number, L"1");
   EXPECT_EQ(row.persons, L"C");
   EXPECT_EQ(row.fop, L"ASH" + Space(22) + L"2");
-  EXPECT_EQ(row.segment, L"-3");
+  EXPECT_EQ(row.segments, L"-3");
 }
 
 }  // namespace
-}  // namespace tst
+}  // namespace ui

@@ -1,14 +1,13 @@
-#include "tst/SelectionRow.h"
+#include "ui/controls/SelectionRow.h"
 
 #include "common/Text.h"
 
-namespace tst {
+namespace ui {
 namespace {
 
 constexpr int kNumberWidth = 9;
 constexpr int kPersonsWidth = 9;
 constexpr int kFOPWidth = 26;
-constexpr int kSegmentRead = 6;
 
 // The store of blanks is one shorter than the column: enough for any field but an empty one.
 std::wstring Padded(std::wstring_view field, int width) {
@@ -19,11 +18,11 @@ std::wstring Padded(std::wstring_view field, int width) {
 }  // namespace
 
 std::wstring RowText(const SelectionRow& row) {
-  return Padded(row.tstNumber, kNumberWidth) + Padded(row.persons, kPersonsWidth) +
-         Padded(row.fop, kFOPWidth) + row.segment;
+  return Padded(row.number, kNumberWidth) + Padded(row.persons, kPersonsWidth) +
+         Padded(row.fop, kFOPWidth) + row.segments;
 }
 
-SelectionRow ReadRow(std::wstring_view text) {
+SelectionRow ReadRow(std::wstring_view text, int segmentWidth) {
   int start = 1;
   const auto next = [&](int width) {
     const std::wstring field = common::Trim(common::Mid(text, start, width));
@@ -31,11 +30,13 @@ SelectionRow ReadRow(std::wstring_view text) {
     return field;
   };
   SelectionRow row;
-  row.tstNumber = next(kNumberWidth);
+  row.number = next(kNumberWidth);
   row.persons = next(kPersonsWidth);
   row.fop = next(kFOPWidth);
-  row.segment = next(kSegmentRead);
+  row.segments = next(segmentWidth);
   return row;
 }
 
-}  // namespace tst
+SelectionRow ReadRow(std::wstring_view text) { return ReadRow(text, common::Length(text)); }
+
+}  // namespace ui
