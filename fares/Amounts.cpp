@@ -17,6 +17,16 @@ std::wstring LeadingAmount(std::wstring_view text) {
   return {text.begin(), end};
 }
 
+// Changes the items of a list, up to the first that cannot be changed. True when all could.
+template <typename Change>
+bool ForEachItem(std::wstring& list, const Change& change) {
+  std::vector<std::wstring> items = SplitItems(list);
+  bool all = true;
+  for (std::size_t i = 0; i < items.size() && all; ++i) all = change(items[i]);
+  list = JoinItems(items);
+  return all;
+}
+
 }  // namespace
 
 std::wstring WithoutCurrency(std::wstring_view amount) {
@@ -54,8 +64,8 @@ double Amounts::ParseAmount(std::wstring_view amount) const {
   return common::ToDouble(common::Replace(kept, L".", settings_.strSymbol), settings_.strSymbol);
 }
 
-void Amounts::MultiplyAmount(std::wstring& amount, const tst::TSTInfo& tst) const {
-  errors_.Run(errors::procedures::kMultiplyAmount, [&] { amount = Product(amount, tst); });
+bool Amounts::MultiplyAmount(std::wstring& amount, const tst::TSTInfo& tst) const {
+  return errors_.Run(errors::procedures::kMultiplyAmount, [&] { amount = Product(amount, tst); });
 }
 
 std::wstring Amounts::Product(std::wstring_view amount, const tst::TSTInfo& tst) const {
@@ -72,32 +82,24 @@ std::wstring Amounts::Product(std::wstring_view amount, const tst::TSTInfo& tst)
 void Amounts::MultiplyTSTValues(const tst::TSTInfo& tst) {
   errors_.Run(errors::procedures::kMultiplyTSTValues, [&] {
     const auto multiplyGiven = [&](std::wstring& amount) {
-      if (!amount.empty()) MultiplyAmount(amount, tst);
+      return amount.empty() || MultiplyAmount(amount, tst);
     };
-    MultiplyAmount(totals_.strFare, tst);
-    multiplyGiven(totals_.strEquivalentFare);
-    multiplyGiven(totals_.strNetFare);
-    multiplyGiven(totals_.strSellingFare);
-    MultiplyTaxes(tst);
-    MultiplyXFItems(tst);
-    multiplyGiven(totals_.strTotalFare);
+    [[maybe_unused]] const bool all =
+        MultiplyAmount(totals_.strFare, tst) && multiplyGiven(totals_.strEquivalentFare) &&
+        multiplyGiven(totals_.strNetFare) && multiplyGiven(totals_.strSellingFare) &&
+        MultiplyTaxes(tst) && MultiplyXFItems(tst) && multiplyGiven(totals_.strTotalFare);
   });
 }
 
-void Amounts::MultiplyTaxes(const tst::TSTInfo& tst) const {
-  std::vector<std::wstring> taxes = SplitItems(totals_.strTaxList);
-  for (std::wstring& tax : taxes) {
-    if (!tax.empty()) MultiplyAmount(tax, tst);
-  }
-  totals_.strTaxList = JoinItems(taxes);
+bool Amounts::MultiplyTaxes(const tst::TSTInfo& tst) const {
+  return ForEachItem(totals_.strTaxList,
+                     [&](std::wstring& tax) { return tax.empty() || MultiplyAmount(tax, tst); });
 }
 
-void Amounts::MultiplyXFItems(const tst::TSTInfo& tst) const {
-  std::vector<std::wstring> items = SplitItems(totals_.strXFTax);
-  for (std::wstring& item : items) {
-    errors_.Run(errors::procedures::kMultiplyAmount, [&] { MultiplyXFItem(item, tst); });
-  }
-  totals_.strXFTax = JoinItems(items);
+bool Amounts::MultiplyXFItems(const tst::TSTInfo& tst) const {
+  return ForEachItem(totals_.strXFTax, [&](std::wstring& item) {
+    return errors_.Run(errors::procedures::kMultiplyAmount, [&] { MultiplyXFItem(item, tst); });
+  });
 }
 
 void Amounts::MultiplyXFItem(std::wstring& item, const tst::TSTInfo& tst) const {

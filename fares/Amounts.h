@@ -34,16 +34,17 @@ class Amounts {
   double ParseAmount(std::wstring_view amount) const;
 
   /// Multiplies an amount text in place by the TST's number of names. A text that does not convert
-  /// is reported, once, and stays as it was.
-  void MultiplyAmount(std::wstring& amount, const tst::TSTInfo& tst) const;
+  /// is reported and stays as it was; the answer is then False.
+  bool MultiplyAmount(std::wstring& amount, const tst::TSTInfo& tst) const;
 
-  /// Multiplies the values of TSTTotals by the TST's number of names.
+  /// Multiplies the values of TSTTotals by the TST's number of names. Ends at the first that does
+  /// not convert: its report stops the run, and a second box would tell the agent nothing new.
   void MultiplyTSTValues(const tst::TSTInfo& tst);
 
  private:
   std::wstring Product(std::wstring_view amount, const tst::TSTInfo& tst) const;
-  void MultiplyTaxes(const tst::TSTInfo& tst) const;
-  void MultiplyXFItems(const tst::TSTInfo& tst) const;
+  bool MultiplyTaxes(const tst::TSTInfo& tst) const;
+  bool MultiplyXFItems(const tst::TSTInfo& tst) const;
   void MultiplyXFItem(std::wstring& item, const tst::TSTInfo& tst) const;
 
   const settings::Settings& settings_;
