@@ -11,6 +11,7 @@ namespace common {
 namespace {
 
 constexpr int kSignificantDigits = 15;
+constexpr std::wstring_view kPoint = L".";
 
 // Half to even whatever the thread's rounding mode is.
 double RoundHalfToEven(double number) {
@@ -50,7 +51,7 @@ std::int16_t ToInteger(double number) { return ToWhole<std::int16_t>(number); }
 
 std::int32_t ToLong(double number) { return ToWhole<std::int32_t>(number); }
 
-std::int16_t ToInteger(std::wstring_view text) { return ToInteger(ToDouble(text, L".")); }
+std::int16_t ToInteger(std::wstring_view text) { return ToInteger(ToDouble(text, kPoint)); }
 
 double ToDouble(std::wstring_view text, std::wstring_view decimal) {
   const auto mismatch = [&] {
@@ -109,7 +110,9 @@ std::wstring NumberText(double number, std::wstring_view decimal) {
   }
   std::wstring text = number < 0 ? L"-" : L"";
   text.append(before.begin(), before.end());
-  if (!after.empty()) text.append(decimal).append(after.begin(), after.end());
+  if (!after.empty()) {
+    text.append(decimal.empty() ? kPoint : decimal).append(after.begin(), after.end());
+  }
   return text;
 }
 
@@ -128,6 +131,6 @@ double HostNumber(std::wstring_view text) {
   return FromDigits(text.substr(0, length));
 }
 
-std::wstring HostNumberText(double number) { return NumberText(number, L"."); }
+std::wstring HostNumberText(double number) { return NumberText(number, kPoint); }
 
 }  // namespace common

@@ -16,7 +16,7 @@ std::int16_t ToInteger(std::wstring_view text);
 double ToDouble(std::wstring_view text, std::wstring_view decimal);
 
 /// At most 15 significant digits, no trailing zeros, never an exponent, `decimal` as the decimal
-/// separator; 0 is "0", a value below 1 begins with "0".
+/// separator, "." when there is none; 0 is "0", a value below 1 begins with "0".
 std::wstring NumberText(double number, std::wstring_view decimal);
 std::wstring NumberText(std::int32_t number);
 

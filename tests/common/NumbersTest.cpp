@@ -159,6 +159,11 @@ TEST(Numbers, ANumberIsWrittenWithFifteenDigitsAndNoTrailingZeros) {
   EXPECT_EQ(NumberText(std::int32_t{-1}), L"-1");
 }
 
+TEST(Numbers, WithoutASeparatorDecimalsAreNotRunIntoTheWholePart) {
+  EXPECT_EQ(NumberText(250.5, L""), L"250.5");
+  EXPECT_EQ(NumberText(250.0, L""), L"250");
+}
+
 TEST(Numbers, WhatIsWrittenCanBeReadAgain) {
   for (const auto& [number, text] : kWrites) {
     const std::wstring written = NumberText(number, L",");
