@@ -38,5 +38,17 @@ TEST(GetDecimalSymbol, IsEmptyWhenTheLocaleDoesNotTell) {
   EXPECT_EQ(GetDecimalSymbol(LocaleOf(1, "")), L"");
 }
 
+/// Tells the length, and then not the separator.
+class ForgetfulLocale : public support::FixedPlatform {
+ public:
+  int LocaleInfo(std::uint32_t, int, std::span<char> buffer) const override {
+    return buffer.empty() ? 2 : 0;
+  }
+};
+
+TEST(GetDecimalSymbol, IsEmptyWhenTheSeparatorItselfIsRefused) {
+  EXPECT_EQ(GetDecimalSymbol(ForgetfulLocale()), L"");
+}
+
 }  // namespace
 }  // namespace fares
