@@ -132,6 +132,21 @@ Lines BoxesIn(const practice::RehearsalOutcome& outcome) {
   return boxes;
 }
 
+bool HasShown(const practice::RehearsalOutcome& outcome, std::wstring_view form) {
+  for (const std::wstring& line : outcome.seen) {
+    if (line.starts_with(L"shown " + std::wstring(form) + L" ")) return true;
+  }
+  return false;
+}
+
+Lines ListIn(const practice::RehearsalOutcome& outcome) {
+  Lines lines;
+  for (const std::wstring& line : outcome.seen) {
+    if (line.starts_with(L"    ")) lines.push_back(line.substr(4));
+  }
+  return lines;
+}
+
 Lines ReadingEntries() {
   return {L"RT", L"IR", L"RT", L"TQT", L"TQM RT", L"OS SK PTA", L"TQT", L"TQT"};
 }

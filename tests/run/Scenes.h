@@ -38,6 +38,10 @@ Lines CallsOf(const practice::RehearsalOutcome& outcome, std::wstring_view opera
 bool Holds(const Lines& lines, std::wstring_view line);
 /// The boxes that the agent saw, with their answers.
 Lines BoxesIn(const practice::RehearsalOutcome& outcome);
+/// The form of that name has been on the screen.
+bool HasShown(const practice::RehearsalOutcome& outcome, std::wstring_view form);
+/// The lines of the list that the agent found; "*" in front of a selected one, else a blank.
+Lines ListIn(const practice::RehearsalOutcome& outcome);
 /// What the run sends while it reads, with one MCO and one fare and no OSI for SK.
 Lines ReadingEntries();
 /// The entries of a run that got as far as writing: up to its first change, and from there on.
