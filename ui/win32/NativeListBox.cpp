@@ -9,14 +9,22 @@ namespace {
 /// Where the selection lists' columns begin, in characters.
 constexpr std::array kColumns = {0, 9, 18, 44};
 
-int CharacterWidth(HWND window, HFONT font) {
+TEXTMETRICW MetricsOf(HWND window, HFONT font) {
   const HDC dc = GetDC(window);
   const HGDIOBJ before = SelectObject(dc, font);
-  SIZE size = {};
-  GetTextExtentPoint32W(dc, L"0", 1, &size);
+  TEXTMETRICW metrics = {};
+  GetTextMetricsW(dc, &metrics);
   SelectObject(dc, before);
   ReleaseDC(window, dc);
-  return size.cx;
+  return metrics;
+}
+
+int LineHeight(HWND window, HFONT font) { return MetricsOf(window, font).tmHeight; }
+int CharacterWidth(HWND window, HFONT font) { return MetricsOf(window, font).tmAveCharWidth; }
+
+FontHandle FontNamed(const wchar_t* name, LOGFONTW font) {
+  lstrcpyW(font.lfFaceName, name);
+  return FontHandle(CreateFontIndirectW(&font));
 }
 
 HFONT FontOf(HWND window) {
@@ -31,22 +39,21 @@ NativeListBox::NativeListBox(ListBox& list, HWND window, Shell& shell)
 }
 
 void NativeListBox::UseFixedPitch() {
+  const HFONT around = FontOf(GetParent(window()));
   LOGFONTW wanted = {};
-  GetObjectW(FontOf(GetParent(window())), sizeof wanted, &wanted);
+  GetObjectW(around, sizeof wanted, &wanted);
+  wanted.lfHeight = LineHeight(window(), around);
   wanted.lfWidth = 0;
   wanted.lfPitchAndFamily = FIXED_PITCH | FF_MODERN;
-  lstrcpyW(wanted.lfFaceName, L"Courier");
-  FontHandle font(CreateFontIndirectW(&wanted));
+  FontHandle font = FontNamed(L"Courier", wanted);
+  // Courier comes in few sizes; far above the largest one its scalable twin takes over.
+  if (LineHeight(window(), font.get()) * 5 < wanted.lfHeight * 4) {
+    font = FontNamed(L"Courier New", wanted);
+  }
   SendMessageW(window(), WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), TRUE);
   font_ = std::move(font);
   characterWidth_ = CharacterWidth(window(), font_.get());
-  TEXTMETRICW metrics = {};
-  const HDC dc = GetDC(window());
-  const HGDIOBJ before = SelectObject(dc, font_.get());
-  GetTextMetricsW(dc, &metrics);
-  SelectObject(dc, before);
-  ReleaseDC(window(), dc);
-  SendMessageW(window(), LB_SETITEMHEIGHT, 0, metrics.tmHeight);
+  SendMessageW(window(), LB_SETITEMHEIGHT, 0, LineHeight(window(), font_.get()));
 }
 
 LRESULT NativeListBox::Handle(UINT message, WPARAM wParam, LPARAM lParam) {

@@ -172,9 +172,37 @@ HWND FocusOf(HWND window) {
   return GetAncestor(info.hwndFocus, GA_ROOT) == foreground ? info.hwndFocus : nullptr;
 }
 
+namespace {
+
+bool NobodyHasTheForeground() {
+  const HWND foreground = GetForegroundWindow();
+  return foreground == nullptr || foreground == GetDesktopWindow();
+}
+
+/// Without a window manager the display can lose the focus altogether when one window goes while
+/// the next one comes. A person would click on the window then.
+void WaitForForeground(HWND window) {
+  constexpr auto kPatience = std::chrono::seconds(1);
+  const auto isThere = [&] { return GetForegroundWindow() == window; };
+  if (!Holds(isThere, kPatience) && NobodyHasTheForeground()) SetForegroundWindow(window);
+}
+
+}  // namespace
+
 void WaitForFocus(HWND control) {
+  WaitForForeground(GetAncestor(control, GA_ROOT));
   WaitUntil(L"the focus is in control " + std::to_wstring(GetDlgCtrlID(control)),
             [&] { return FocusOf(control) == control; });
+}
+
+HWND WaitForFocusWithin(HWND window) {
+  WaitForForeground(window);
+  HWND focus = nullptr;
+  WaitUntil(L"the focus is in the window \"" + TextOf(window) + L"\"", [&] {
+    focus = FocusOf(window);
+    return focus != nullptr && GetAncestor(focus, GA_ROOT) == window;
+  });
+  return focus;
 }
 
 void Type(HWND control, std::wstring_view text) {
@@ -194,19 +222,26 @@ void Press(HWND control, WORD key, int modifiers) {
 void TypeOver(HWND control, std::wstring_view text) {
   Press(control, VK_HOME);
   Press(control, VK_END, kShift);
+  if (text.empty()) Press(control, VK_DELETE);
   Type(control, text);
 }
 
 void Click(HWND window) {
   RECT area = {};
-  GetWindowRect(window, &area);
-  const auto scaled = [](LONG at, int size) {
-    return static_cast<LONG>((static_cast<long long>(at) * 65536 + 32768) / size);
+  GetClientRect(window, &area);
+  ClickAt(window, area.right / 2, area.bottom / 2);
+}
+
+void ClickAt(HWND window, int x, int y) {
+  POINT at = {x, y};
+  ClientToScreen(window, &at);
+  const auto scaled = [](LONG position, int size) {
+    return static_cast<LONG>((static_cast<long long>(position) * 65536 + 32768) / size);
   };
   INPUT input = {};
   input.type = INPUT_MOUSE;
-  input.mi.dx = scaled((area.left + area.right) / 2, GetSystemMetrics(SM_CXSCREEN));
-  input.mi.dy = scaled((area.top + area.bottom) / 2, GetSystemMetrics(SM_CYSCREEN));
+  input.mi.dx = scaled(at.x, GetSystemMetrics(SM_CXSCREEN));
+  input.mi.dy = scaled(at.y, GetSystemMetrics(SM_CYSCREEN));
   input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
   INPUT down = input;
   down.mi.dwFlags |= MOUSEEVENTF_LEFTDOWN;

@@ -46,6 +46,8 @@ std::wstring ListLine(HWND list, int index);
 HWND FocusOf(HWND window);
 /// Waits until the focus is there.
 void WaitForFocus(HWND control);
+/// Waits until it is anywhere in this top-level window, and tells where.
+HWND WaitForFocusWithin(HWND window);
 
 /// Types at the focus, which must be, or get, in `control`.
 void Type(HWND control, std::wstring_view text);
@@ -55,6 +57,8 @@ void Press(HWND control, WORD key, int modifiers = kNone);
 void TypeOver(HWND control, std::wstring_view text);
 /// Clicks into the middle of the window.
 void Click(HWND window);
+/// Clicks at a point of its client area.
+void ClickAt(HWND window, int x, int y);
 
 std::wstring ToWide(std::string_view utf8);
 std::string ToUtf8(std::wstring_view text);

@@ -83,11 +83,12 @@ void WindowAgent::ComeTo(const std::wstring& form) {
   WaitUntil(form + L" is there", [&] {
     LookAtProgress();
     form_ = program_.WindowWith(kMarks.at(form));
-    return (form_ != nullptr && IsWindowEnabled(form_) && FocusOf(form_) != nullptr) ||
-           program_.Box() != nullptr || !program_.IsRunning();
+    return (form_ != nullptr && IsWindowEnabled(form_)) || program_.Box() != nullptr ||
+           !program_.IsRunning();
   });
   if (program_.Box() != nullptr) throw DriverError(L"A box says " + BoxText(program_.Box()));
   if (!program_.IsRunning()) throw DriverError(L"The program has ended");
+  WaitForFocusWithin(form_);
   formName_ = form;
   look_(form_, form);
 }
@@ -110,7 +111,7 @@ void WindowAgent::AnswerBox(const practice::AgentLine& line) {
     throw DriverError(L"The box bears \"" + TextOf(box) + L"\"");
   }
   const HWND button = line.Word(0) == L"ok" ? OkButton(box) : Item(box, IDCANCEL);
-  WaitUntil(L"the box has the focus", [&] { return FocusOf(box) != nullptr; });
+  WaitForFocusWithin(box);
   Click(button);
   WaitUntil(L"the box is gone", [&] { return !IsWindow(box); });
 }
@@ -145,11 +146,7 @@ bool WindowAgent::Is(HWND control, const std::wstring& state) const {
 void WindowAgent::GoTo(HWND control) {
   constexpr int kMostTabs = 60;
   for (int i = 0; i < kMostTabs; ++i) {
-    HWND focus = nullptr;
-    WaitUntil(L"the form has the focus", [&] {
-      focus = FocusOf(form_);
-      return focus != nullptr && GetAncestor(focus, GA_ROOT) == form_;
-    });
+    const HWND focus = WaitForFocusWithin(form_);
     if (focus == control) return;
     Press(focus, VK_TAB);
     WaitUntil(L"the focus has moved on", [&] { return FocusOf(form_) != focus; });

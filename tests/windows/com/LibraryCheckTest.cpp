@@ -1,0 +1,127 @@
+#include <TestLibrary.h>
+
+#include "hostlib/com/CallOutcome.h"
+#include "hostlib/com/LibraryCheck.h"
+#include "tests/windows/com/TestServer.h"
+
+namespace com_tests {
+namespace {
+
+using hostlib::com::CheckUsedOperations;
+namespace operations = hostlib::operations;
+
+constexpr hostlib::Operation kUsed[] = {
+    operations::parameter_bag::kSetValue,         operations::parameter_bag::kGetValue,
+    operations::terminal_session::kLoadPNR,       operations::terminal_session::kSendCommand,
+    operations::terminal_session::kSendEntry,     operations::terminal_session::kSendDisplay,
+    operations::terminal_session::kSessionText,   operations::pnr_element_change::kExecute,
+    operations::pnr_element_change::kReadResponse};
+
+constexpr std::wstring_view kIntroduction =
+    L"The installed Vantel script library is not the one that this program needs.\r\r";
+
+class LibraryCheck : public ComBench {
+ protected:
+  void InstallAll(Types types) {
+    types_ = LoadTypes(types);
+    bag_ = Install(L"ParameterBag", __uuidof(::TestBag), __uuidof(IBag));
+    session_ = Install(L"TerminalSession", __uuidof(::TestSession), __uuidof(ISession));
+    change_ = Install(L"PnrElementChange", __uuidof(::TestChange), __uuidof(IChange));
+  }
+
+  ComPtr<TestObject> bag_;
+  ComPtr<TestObject> session_;
+  ComPtr<TestObject> change_;
+};
+
+TEST_F(LibraryCheck, IsQuietWhenEveryOperationStandsInItsSlot) {
+  InstallAll(Types::kGood);
+  EXPECT_NO_THROW(CheckUsedOperations(library_, kUsed));
+}
+
+TEST_F(LibraryCheck, NamesTheSlotThatIsNotThere) {
+  InstallAll(Types::kLacksSlot);
+  const auto error = FailureOf([&] { CheckUsedOperations(library_, kUsed); });
+  EXPECT_EQ(error.number(), hostlib::com::kLibraryDoesNotFit);
+  EXPECT_EQ(error.outcome(), hostlib::LibraryError::Outcome::kNotSent);
+  EXPECT_EQ(error.description(),
+            std::wstring(kIntroduction) +
+                L"TerminalSession, slot 16 (SessionText): there is no such slot.");
+}
+
+TEST_F(LibraryCheck, NamesTheOperationWithAnotherNumberOfArguments) {
+  InstallAll(Types::kOtherCount);
+  EXPECT_EQ(FailureOf([&] { CheckUsedOperations(library_, kUsed); }).description(),
+            std::wstring(kIntroduction) +
+                L"TerminalSession, slot 11 (SendEntry): it takes 2 arguments instead of 1.");
+}
+
+TEST_F(LibraryCheck, NamesAFurtherInterface) {
+  InstallAll(Types::kGood);
+  constexpr hostlib::Operation kUsedMore[] = {{L"PnrElementChange", 2, 9, L"Undo", 1},
+                                              {L"PnrElementChange", 3, 7, L"Redo", 0}};
+  EXPECT_EQ(FailureOf([&] { CheckUsedOperations(library_, kUsedMore); }).description(),
+            std::wstring(kIntroduction) +
+                L"PnrElementChange, interface 2, slot 9 (Undo): there is no such slot.\r"
+                L"PnrElementChange, interface 3, slot 7 (Redo): there is no interface 3.");
+}
+
+TEST_F(LibraryCheck, NamesAnObjectThatIsNotThereOnce) {
+  types_ = LoadTypes(Types::kGood);
+  Install(L"ParameterBag", __uuidof(::TestBag), __uuidof(IBag));
+  Install(L"TerminalSession", __uuidof(::TestSession), __uuidof(ISession));
+  EXPECT_EQ(FailureOf([&] { CheckUsedOperations(library_, kUsed); }).description(),
+            std::wstring(kIntroduction) + L"PnrElementChange: there is no such object.");
+}
+
+TEST_F(LibraryCheck, NamesNoMoreThanTenFaults) {
+  types_ = LoadTypes(Types::kGood);
+  Install(L"ParameterBag", __uuidof(::TestBag), __uuidof(IBag));
+  const std::wstring words = FailureOf([&] { CheckUsedOperations(library_); }).description();
+  EXPECT_EQ(std::count(words.begin(), words.end(), L'\r'), 12);
+  EXPECT_TRUE(words.ends_with(L"\r... and 13 more."));
+}
+
+TEST_F(LibraryCheck, SendsNothingAndMakesOneObjectOfTheLibrary) {
+  InstallAll(Types::kGood);
+  CheckUsedOperations(library_, kUsed);
+  EXPECT_TRUE(bag_->calls.empty() && session_->calls.empty() && change_->calls.empty());
+  EXPECT_EQ(source_.made, 1);
+}
+
+TEST_F(LibraryCheck, LeavesALibraryThatIsNotInstalledToTheRun) {
+  EXPECT_NO_THROW(CheckUsedOperations(library_));
+}
+
+TEST_F(LibraryCheck, LeavesATerminalThatDoesNotRunToTheRun) {
+  InstallAll(Types::kLacksSlot);
+  for (const wchar_t* progId :
+       {L"Vantel.ParameterBag", L"Vantel.TerminalSession", L"Vantel.PnrElementChange"}) {
+    source_.failures[progId] = CO_E_SERVER_EXEC_FAILURE;
+  }
+  EXPECT_NO_THROW(CheckUsedOperations(library_, kUsed));
+}
+
+TEST_F(LibraryCheck, FindsWhatEachOfSeveralTypeLibrariesDescribes) {
+  // The session comes from a library of its own: its class is looked for on an object.
+  types_ = LoadTypes(Types::kGood);
+  Install(L"ParameterBag", __uuidof(::TestBag), __uuidof(IBag));
+  constexpr CLSID kElsewhere{0x1, 0x2, 0x3, {4, 5, 6, 7, 8, 9, 10, 11}};
+  types_ = LoadTypes(Types::kLacksSlot);
+  Install(L"TerminalSession", kElsewhere, __uuidof(ISession));
+  EXPECT_EQ(
+      FailureOf([&] { CheckUsedOperations(library_, std::span(kUsed).first(7)); }).description(),
+      std::wstring(kIntroduction) +
+          L"TerminalSession, slot 16 (SessionText): there is no such slot.");
+  EXPECT_EQ(source_.made, 2);
+}
+
+TEST_F(LibraryCheck, EveryUsedObjectHasAName) {
+  for (const hostlib::Operation& operation : hostlib::AllOperations()) {
+    EXPECT_EQ(hostlib::com::ProgIdOf(operation.object),
+              L"Vantel." + std::wstring(operation.object));
+  }
+}
+
+}  // namespace
+}  // namespace com_tests

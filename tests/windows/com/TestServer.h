@@ -1,0 +1,123 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <map>
+#include <vector>
+
+#include "hostlib/com/Apartment.h"
+#include "hostlib/com/ComLibrary.h"
+#include "hostlib/com/ProgIds.h"
+#include "hostlib/com/TypeOwners.h"
+
+namespace com_tests {
+
+using hostlib::com::Bstr;
+using hostlib::com::TypeInfo;
+using hostlib::com::TypeLibrary;
+using hostlib::com::Variant;
+using Microsoft::WRL::ComPtr;
+
+/// The type libraries inside the test program, by their resource numbers.
+enum class Types { kGood = 1, kLacksSlot = 2, kOtherCount = 3 };
+TypeLibrary LoadTypes(Types types);
+
+/// One call as it arrives at the library.
+struct Received {
+  DISPID member;
+  WORD kind;
+  DISPPARAMS* parameters;
+  VARIANT* result;
+  EXCEPINFO* exception;
+  UINT* badArgument;
+
+  /// Counted from 0 in the written order.
+  VARIANT& Argument(UINT index) const { return parameters->rgvarg[parameters->cArgs - 1 - index]; }
+};
+
+/// An object of the library: what a call does is written in the test.
+class TestObject : public IDispatch {
+ public:
+  explicit TestObject(TypeInfo type) : type_(std::move(type)) {}
+  virtual ~TestObject() = default;
+
+  std::function<HRESULT(const Received&)> onCall;
+  /// Answers to questions for other interfaces.
+  std::map<std::wstring, ComPtr<TestObject>> others;
+  std::vector<DISPID> calls;
+  int questions = 0;      ///< for other interfaces
+  int typeQuestions = 0;  ///< for its type information
+
+  void AddInterface(const IID& id, ComPtr<TestObject> object);
+  /// The answer to every call.
+  void Answer(std::function<void(VARIANT&)> fill);
+  ULONG references() const { return references_; }
+
+  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** result) override;
+  ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
+  ULONG STDMETHODCALLTYPE Release() override;
+  HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override;
+  HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT index, LCID, ITypeInfo** type) override;
+  HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override {
+    return E_NOTIMPL;
+  }
+  HRESULT STDMETHODCALLTYPE Invoke(DISPID member, REFIID, LCID, WORD kind, DISPPARAMS* parameters,
+                                   VARIANT* result, EXCEPINFO* exception,
+                                   UINT* badArgument) override;
+
+ private:
+  TypeInfo type_;
+  ULONG references_ = 0;
+};
+
+/// Classes and objects as a test says.
+class TestSource : public hostlib::com::ObjectSource {
+ public:
+  void Install(std::wstring_view className, const CLSID& classId, ComPtr<IDispatch> object);
+
+  std::map<std::wstring, HRESULT, std::less<>> failures;  ///< by ProgID, when made
+  bool isOutOfReach = false;
+  int made = 0;
+  int searched = 0;
+
+  HRESULT FindClass(std::wstring_view progId, CLSID& classId) override;
+  HRESULT Make(const CLSID& classId, ComPtr<IDispatch>& object) override;
+  bool IsOutOfReach(const CLSID&, HRESULT) override { return isOutOfReach; }
+
+ private:
+  struct Entry {
+    std::wstring progId;
+    CLSID classId;
+    ComPtr<IDispatch> object;
+  };
+  std::vector<Entry> entries_;
+};
+
+/// A library over test objects, in an apartment of its own.
+class ComBench : public testing::Test {
+ protected:
+  /// An object of the class of the test's type library, made under the name that the program uses.
+  ComPtr<TestObject> Install(std::wstring_view className, const CLSID& classId, const IID& id);
+  /// ... and at once the program's end of it.
+  hostlib::ObjectPtr Made(std::wstring_view className) { return library_.Create(className); }
+
+  hostlib::com::Apartment apartment_{[] { return false; }};
+  TypeLibrary types_ = LoadTypes(Types::kGood);
+  TestSource source_;
+  hostlib::com::ComLibrary library_{source_};
+};
+
+/// The failure of an action that has to fail.
+template <typename Action>
+hostlib::LibraryError FailureOf(Action action) {
+  try {
+    action();
+  } catch (const hostlib::LibraryError& error) {
+    return error;
+  }
+  ADD_FAILURE() << "nothing failed";
+  return hostlib::LibraryError(0, L"", L"");
+}
+
+}  // namespace com_tests

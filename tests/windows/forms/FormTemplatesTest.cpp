@@ -1,0 +1,229 @@
+#include <gtest/gtest.h>
+
+#include <map>
+
+#include "mco/frmSelectMCO.h"
+#include "tests/mco/WaitBench.h"
+#include "tests/windows/driver/Driver.h"
+#include "tst/frmSelectTST.h"
+#include "ui/HelpDefinitions.h"
+#include "ui/frmPTA.h"
+#include "ui/frmWorking.h"
+#include "ui/win32/ControlIds.h"
+#include "ui/win32/FormWindow.h"
+#include "ui/win32/resource.h"
+
+namespace ui {
+
+namespace {
+
+/// All forms of the product, with what they are made of.
+struct Forms {
+  mco::WaitBench bench;
+  frmWorking working;
+  frmPTA pta{bench.desktop, bench.errors, bench.runEnd};
+  mco::frmSelectMCO selectMCO;
+  tst::frmSelectTST selectTST{bench.desktop, bench.runEnd};
+  std::vector<Form*> all{&working, &pta, &selectMCO, &bench.form, &selectTST};
+};
+
+std::vector<HWND> Children(HWND dialog) {
+  std::vector<HWND> children;
+  for (HWND child = GetWindow(dialog, GW_CHILD); child != nullptr;
+       child = GetWindow(child, GW_HWNDNEXT)) {
+    children.push_back(child);
+  }
+  return children;
+}
+
+RECT PlaceIn(HWND dialog, HWND child) {
+  RECT place = {};
+  GetWindowRect(child, &place);
+  MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&place), 2);
+  return place;
+}
+
+SIZE SizeOf(HWND window, const std::wstring& text, UINT format = 0) {
+  const HDC dc = GetDC(window);
+  const HGDIOBJ before =
+      SelectObject(dc, reinterpret_cast<HFONT>(SendMessageW(window, WM_GETFONT, 0, 0)));
+  RECT area = {};
+  DrawTextW(dc, text.c_str(), -1, &area, DT_CALCRECT | format);
+  SelectObject(dc, before);
+  ReleaseDC(window, dc);
+  return {area.right, area.bottom};
+}
+
+/// What a kind of control needs beside its caption: box and gap, the bends of a frame, the border
+/// of a button.
+int Surroundings(ControlKind kind) {
+  const int unit = GetSystemMetrics(SM_CXMENUCHECK);
+  switch (kind) {
+    case ControlKind::kCheckBox:
+      return unit + 5;
+    case ControlKind::kFrame:
+      return 18;
+    case ControlKind::kButton:
+      return 12;
+    default:
+      return 0;
+  }
+}
+
+bool Overlap(const RECT& a, const RECT& b) {
+  RECT common = {};
+  return IntersectRect(&common, &a, &b) != FALSE;
+}
+
+wchar_t Accelerator(const std::wstring& caption) {
+  const std::size_t at = caption.find(L'&');
+  if (at == caption.npos) return L'\0';
+  return static_cast<wchar_t>(towupper(caption.at(at + 1)));
+}
+
+class FormTemplates : public testing::TestWithParam<std::size_t> {
+ protected:
+  Forms forms;
+  Form& form = *forms.all[GetParam()];
+  Guard guard;
+  InputGate gate;
+  Shell shell{guard, gate};
+  FormWindow window{form, GetModuleHandleW(nullptr), nullptr, shell};
+  HWND dialog = window.handle();
+};
+
+TEST_P(FormTemplates, HoldTheFormsControlsAndNoOthersInTheFormsOrder) {
+  std::vector<int> wanted;
+  for (const Control* control : form.controls()) {
+    if (control->kind() != ControlKind::kTimer) wanted.push_back(ControlId(control->name()));
+  }
+  std::vector<int> there;
+  for (const HWND child : Children(dialog)) there.push_back(GetDlgCtrlID(child));
+  EXPECT_EQ(there, wanted);
+}
+
+TEST_P(FormTemplates, GiveEveryCaptionTheRoomItNeeds) {
+  for (const Control* control : form.controls()) {
+    const HWND child = GetDlgItem(dialog, ControlId(control->name()));
+    if (child == nullptr || control->kind() == ControlKind::kStatusBar) continue;
+    RECT area = {};
+    GetClientRect(child, &area);
+    const SIZE text = SizeOf(child, control->Text());
+    EXPECT_LE(text.cx + Surroundings(control->kind()), area.right)
+        << driver::ToUtf8(control->name());
+    if (control->kind() == ControlKind::kLabel) {
+      EXPECT_LE(text.cy, area.bottom) << driver::ToUtf8(control->name());
+    }
+  }
+}
+
+TEST_P(FormTemplates, KeepEverythingInsideAndApart) {
+  RECT whole = {};
+  GetClientRect(dialog, &whole);
+  const std::vector<HWND> children = Children(dialog);
+  std::map<int, RECT> places;
+  for (const Control* control : form.controls()) {
+    const int id = ControlId(control->name());
+    const HWND child = GetDlgItem(dialog, id);
+    if (child == nullptr) continue;
+    const RECT place = PlaceIn(dialog, child);
+    EXPECT_TRUE(place.left >= 0 && place.top >= 0 && place.right <= whole.right &&
+                place.bottom <= whole.bottom)
+        << driver::ToUtf8(control->name());
+    if (control->kind() == ControlKind::kFrame) continue;
+    for (const auto& [otherId, other] : places) {
+      EXPECT_FALSE(Overlap(place, other)) << driver::ToUtf8(control->name()) << " and " << otherId;
+    }
+    places[id] = place;
+  }
+}
+
+TEST_P(FormTemplates, HaveNoAcceleratorTwice) {
+  std::map<wchar_t, std::wstring> owners;
+  for (const Control* control : form.controls()) {
+    const bool captioned =
+        control->kind() != ControlKind::kTextBox && control->kind() != ControlKind::kStatusBar;
+    const wchar_t key = captioned ? Accelerator(control->Text()) : L'\0';
+    if (key == L'\0') continue;
+    EXPECT_TRUE(owners.emplace(key, control->name()).second)
+        << driver::ToUtf8(control->name()) << " and " << driver::ToUtf8(owners[key]);
+  }
+}
+
+TEST_P(FormTemplates, HaveTheirLabelsDirectlyBeforeTheirFields) {
+  const std::vector<HWND> children = Children(dialog);
+  for (std::size_t i = 0; i < children.size(); ++i) {
+    if (Accelerator(driver::TextOf(children[i])) == L'\0') continue;
+    wchar_t kind[32] = {};
+    GetClassNameW(children.at(i + 1), kind, 32);
+    EXPECT_STREQ(kind, L"Edit") << driver::ToUtf8(driver::TextOf(children[i]));
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(OfEveryForm, FormTemplates, testing::Range<std::size_t>(0, 5));
+
+class DialogTemplate : public testing::Test {
+ protected:
+  HWND Item(int id) { return GetDlgItem(window.handle(), id); }
+
+  Forms forms;
+  Guard guard;
+  InputGate gate;
+  Shell shell{guard, gate};
+  FormWindow window{forms.pta, GetModuleHandleW(nullptr), nullptr, shell};
+};
+
+TEST_F(DialogTemplate, ShowsAPTATotalOfSixtyCharactersWhole) {
+  const std::wstring total = L"SEK10000/TAX SEK1200XT, SEK400YQ, SEK350ZZ, SEK200RD, SEK100";
+  ASSERT_EQ(total.size(), 60u);
+  RECT inner = {};
+  SendMessageW(Item(ID_txtPTA), EM_GETRECT, 0, reinterpret_cast<LPARAM>(&inner));
+  EXPECT_LE(SizeOf(Item(ID_txtPTA), total, DT_NOPREFIX).cx, inner.right - inner.left);
+}
+
+TEST_F(DialogTemplate, HasRoomForEveryHelpLineInItsStatusBar) {
+  RECT bar = {};
+  GetClientRect(Item(ID_staStatusText), &bar);
+  for (const Control* control : forms.pta.controls()) {
+    const HelpDefinition* help = FindHelp(control->name());
+    if (help == nullptr) continue;
+    const std::wstring line = std::wstring(help->status) + std::wstring(kIncompleteMark);
+    EXPECT_LE(SizeOf(Item(ID_staStatusText), line, DT_NOPREFIX).cx + 12, bar.right)
+        << driver::ToUtf8(line);
+  }
+}
+
+TEST_F(DialogTemplate, HasNoDefaultButton) {
+  const LRESULT standard = SendMessageW(window.handle(), DM_GETDEFID, 0, 0);
+  EXPECT_EQ(GetDlgItem(window.handle(), LOWORD(standard)), nullptr);
+}
+
+TEST(WaitTemplate, HasRoomForItsStatusLine) {
+  Forms forms;
+  Guard guard;
+  InputGate gate;
+  Shell shell{guard, gate};
+  const FormWindow window(forms.bench.form, GetModuleHandleW(nullptr), nullptr, shell);
+  const HWND bar = GetDlgItem(window.handle(), ID_staStatusText);
+  RECT area = {};
+  GetClientRect(bar, &area);
+  EXPECT_LE(SizeOf(bar, mco::WaitedFor(120)).cx + 12, area.right);
+}
+
+TEST(Templates, AreAllInDialogUnitsOfMSSansSerif8) {
+  Forms forms;
+  Guard guard;
+  InputGate gate;
+  Shell shell{guard, gate};
+  for (Form* form : forms.all) {
+    const FormWindow window(*form, GetModuleHandleW(nullptr), nullptr, shell);
+    LOGFONTW font = {};
+    GetObjectW(reinterpret_cast<HFONT>(SendMessageW(window.handle(), WM_GETFONT, 0, 0)),
+               sizeof font, &font);
+    EXPECT_STREQ(font.lfFaceName, L"MS Sans Serif");
+  }
+}
+
+}  // namespace
+
+}  // namespace ui
