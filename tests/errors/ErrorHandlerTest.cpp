@@ -92,6 +92,19 @@ TEST(ErrorHandler, WithoutAReporterAPlainBoxWithTheSameTextStandsIn) {
   EXPECT_TRUE(bench.stop.isSet);
 }
 
+TEST(ErrorHandler, ALastErrorThatCannotBeAskedForLeavesTheOwnTextInAPlainBox) {
+  RoomBench bench;
+  bench.reporter.Release();
+  EXPECT_THROW(bench.errors.Run(kEntry, RaiseLibrarys), support::EndedByEndScript);
+  EXPECT_EQ(bench.desktop.log, Lines{L"box 16 \"  PTA Script \" \"Entry!\" -> 1"});
+}
+
+TEST(ErrorHandler, AFailureOfTheLanguagesOwnIsShownLikeAnyOther) {
+  RoomBench bench;
+  EXPECT_FALSE(bench.errors.Run(kOwn, [] { std::vector<int>().at(1); }));
+  EXPECT_EQ(bench.TakeCalls().size(), 1U);
+}
+
 TEST(ErrorHandler, ARefusalAddsTheStandardTextInTheExclamationStyle) {
   RoomBench bench;
   bench.errors.ReportRefusal(kOwn);

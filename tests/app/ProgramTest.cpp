@@ -1,0 +1,53 @@
+#include <gtest/gtest.h>
+
+#include "app/Program.h"
+#include "hostlib/Operations.h"
+#include "tests/support/FakeDesktop.h"
+#include "tests/support/ScriptedLibrary.h"
+
+namespace app {
+namespace {
+
+using Lines = std::vector<std::wstring>;
+
+/// Writes down the caption that a form has when it is painted.
+class WatchedDesktop : public support::FakeDesktop {
+ public:
+  void Show(ui::Form& form) override {
+    FakeDesktop::Show(form);
+    log.back() += L" \"" + form.Caption() + L"\"";
+  }
+  void Refresh(ui::Form& form) override {
+    FakeDesktop::Refresh(form);
+    log.back() += L" \"" + form.Caption() + L"\"";
+  }
+};
+
+struct Bench {
+  Bench() { library.Answer(hostlib::operations::script_global::kAttach, false); }
+  int Run() { return RunProgram(library, desktop, platform); }
+
+  support::ScriptedLibrary library;
+  support::FixedPlatform platform;
+  WatchedDesktop desktop;
+};
+
+TEST(RunProgram, TheProgressFormGetsItsCaptionOnceShownAndIsPaintedAnew) {
+  Bench bench;
+  bench.library.FailToCreate(L"ScriptErrorReporter");
+  EXPECT_EQ(bench.Run(), 0);
+  ASSERT_GE(bench.desktop.log.size(), 2U);
+  EXPECT_EQ(bench.desktop.log[0], L"show frmWorking \"\"");
+  EXPECT_EQ(bench.desktop.log[1], L"refresh frmWorking \"  PTA Script \"");
+}
+
+TEST(RunProgram, AFailureBeforeThereIsAReporterIsTheEntryProceduresBoxAndTheEnd) {
+  Bench bench;
+  bench.library.Answer(hostlib::operations::script_global::kAttach, L"no boolean");
+  EXPECT_EQ(bench.Run(), 0);
+  EXPECT_EQ(bench.desktop.log,
+            Lines{L"box 16 \"  PTA Script \" \"Error initiating script!\" -> 1"});
+}
+
+}  // namespace
+}  // namespace app
