@@ -10,7 +10,6 @@ constexpr int kDocumentStart = 5;  // after prefix and "-"
 constexpr std::wstring_view kOSIPrefix = L"117";
 constexpr std::wstring_view kCityPlaceholder = L"XXX";
 constexpr std::wstring_view kCityOfAirport = L"TRF";
-constexpr std::wstring_view kDefaultQueue = L"80";
 
 void FillIfEmpty(ui::TextBox& field, const std::wstring& value) {
   if (field.Text().empty() && !value.empty()) field.SetText(value);
@@ -54,9 +53,9 @@ void DialogFields::FillQueueing(std::wstring office, const std::wstring& queue) 
   if (common::Left(office, common::Length(kCityPlaceholder)) == kCityPlaceholder) {
     office = common::Replace(office, kCityPlaceholder, general_.strOriginCity);
   }
-  // The office's own Change handler writes a queue, so the queue comes second.
+  // The office comes first: its Change handler writes the queue that stands when none is found.
   dialog_.txtQueueingOfficeID.SetText(office);
-  dialog_.txtQueueCat.SetText(queue.empty() ? kDefaultQueue : std::wstring_view(queue));
+  if (!queue.empty()) dialog_.txtQueueCat.SetText(queue);
 }
 
 void DialogFields::RebuildFormOfPayment() {
