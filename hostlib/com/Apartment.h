@@ -1,0 +1,21 @@
+#pragma once
+
+#include "hostlib/com/BusyPolicy.h"
+
+namespace hostlib::com {
+
+/// The thread's apartment, from construction to destruction: every object must be gone before.
+/// While a call is out and the terminal is busy, waits as BusyPolicy says.
+class Apartment {
+ public:
+  /// `tryAgain` asks the agent when the terminal stays busy. Throws LibraryError.
+  explicit Apartment(BusyPolicy::Question tryAgain);
+  ~Apartment();
+  Apartment(const Apartment&) = delete;
+  Apartment& operator=(const Apartment&) = delete;
+};
+
+/// The question as a message box of the system, with Retry and Cancel.
+bool AskToTryAgain();
+
+}  // namespace hostlib::com

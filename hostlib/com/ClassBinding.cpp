@@ -1,0 +1,116 @@
+#include "hostlib/com/ClassBinding.h"
+
+#include "hostlib/com/CallOutcome.h"
+
+namespace hostlib::com {
+namespace {
+
+std::vector<TypeInfo> InterfacesOf(const TypeInfo& coclass) {
+  std::vector<TypeInfo> interfaces;
+  const TypeAttributes attributes(coclass);
+  for (UINT i = 0; i < attributes->cImplTypes; ++i) {
+    INT flags = 0;
+    HREFTYPE reference = 0;
+    TypeInfo type;
+    Check(coclass->GetImplTypeFlags(i, &flags));
+    // What the class calls back is none of its interfaces.
+    if ((flags & IMPLTYPEFLAG_FSOURCE) != 0) continue;
+    Check(coclass->GetRefTypeOfImplType(i, &reference));
+    Check(coclass->GetRefTypeInfo(reference, &type));
+    interfaces.push_back(std::move(type));
+  }
+  return interfaces;
+}
+
+// For a class without a registered id: the coclass whose first interface is the object's.
+TypeInfo CoclassWithInterface(ITypeLib& library, const IID& interfaceId) {
+  const UINT types = library.GetTypeInfoCount();
+  for (UINT i = 0; i < types; ++i) {
+    TYPEKIND kind{};
+    TypeInfo type;
+    if (FAILED(library.GetTypeInfoType(i, &kind)) || kind != TKIND_COCLASS) continue;
+    if (FAILED(library.GetTypeInfo(i, &type))) continue;
+    const std::vector<TypeInfo> interfaces = InterfacesOf(type);
+    if (!interfaces.empty() && TypeAttributes(interfaces.front())->guid == interfaceId) return type;
+  }
+  return nullptr;
+}
+
+TypeInfo TypeOf(IDispatch& object) {
+  TypeInfo type;
+  if (FAILED(object.GetTypeInfo(0, LOCALE_NEUTRAL, &type))) return nullptr;
+  return type;
+}
+
+TypeLibrary LibraryOf(const TypeInfo& type) {
+  TypeLibrary library;
+  UINT index = 0;
+  if (type == nullptr || FAILED(type->GetContainingTypeLib(&library, &index))) return nullptr;
+  return library;
+}
+
+std::vector<TypeInfo> InterfacesOf(IDispatch& object, const CLSID* classId) {
+  const TypeInfo type = TypeOf(object);
+  if (type == nullptr) return {};
+  const TypeLibrary library = LibraryOf(type);
+  if (library == nullptr) return {type};
+  TypeInfo coclass = classId == nullptr ? nullptr : FindCoclass(*library.Get(), *classId);
+  if (coclass == nullptr) {
+    coclass = CoclassWithInterface(*library.Get(), TypeAttributes(type)->guid);
+  }
+  return coclass == nullptr ? std::vector<TypeInfo>{type} : InterfacesOf(coclass);
+}
+
+std::wstring Count(std::size_t number) {
+  return std::to_wstring(number) + (number == 1 ? L" argument" : L" arguments");
+}
+
+}  // namespace
+
+TypeInfo FindCoclass(ITypeLib& library, const CLSID& classId) {
+  TypeInfo type;
+  if (FAILED(library.GetTypeInfoOfGuid(classId, &type))) return nullptr;
+  return TypeAttributes(type)->typekind == TKIND_COCLASS ? type : nullptr;
+}
+
+TypeLibrary TypeLibraryOf(IDispatch& object) { return LibraryOf(TypeOf(object)); }
+
+ClassBinding::ClassBinding(std::wstring className, IDispatch& object, const CLSID* classId)
+    : className_(std::move(className)) {
+  for (const TypeInfo& type : InterfacesOf(object, classId)) interfaces_.emplace_back(type);
+}
+
+ClassBinding::ClassBinding(std::wstring className, const TypeInfo& coclass)
+    : className_(std::move(className)) {
+  for (const TypeInfo& type : InterfacesOf(coclass)) interfaces_.emplace_back(type);
+}
+
+const IID* ClassBinding::InterfaceId(int number) const {
+  const auto index = static_cast<std::size_t>(number - 1);
+  return number >= 1 && index < interfaces_.size() ? &interfaces_[index].id() : nullptr;
+}
+
+const Member* ClassBinding::Find(int interfaceNumber, int slot) {
+  if (InterfaceId(interfaceNumber) == nullptr) return nullptr;
+  const auto [entry, isNew] = members_.try_emplace({interfaceNumber, slot});
+  if (isNew) {
+    const auto index = static_cast<std::size_t>(interfaceNumber - 1);
+    entry->second = interfaces_[index].MemberInSlot(slot);
+  }
+  return entry->second ? &*entry->second : nullptr;
+}
+
+std::wstring ClassBinding::WhatIsWrongWith(const Operation& operation) {
+  if (interfaces_.empty()) return L"its object does not describe itself";
+  if (InterfaceId(operation.interfaceNumber) == nullptr) {
+    return L"there is no interface " + std::to_wstring(operation.interfaceNumber);
+  }
+  const Member* member = Find(operation.interfaceNumber, operation.slot);
+  if (member == nullptr) return L"there is no such slot";
+  const auto expected = static_cast<std::size_t>(operation.arguments);
+  if (member->references.size() == expected) return {};
+  return L"it takes " + Count(member->references.size()) + L" instead of " +
+         std::to_wstring(expected);
+}
+
+}  // namespace hostlib::com

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <map>
+#include <memory>
+#include <string>
+
+#include "hostlib/com/ClassBinding.h"
+#include "hostlib/com/ObjectSource.h"
+#include "hostlib/com/VariantValues.h"
+
+namespace hostlib::com {
+
+/// The installed script library, over COM. Belongs to one thread with its own apartment; must
+/// outlive its objects.
+class ComLibrary : public Library, public ObjectGate {
+ public:
+  explicit ComLibrary(ObjectSource& source) : source_(source) {}
+  ComLibrary(const ComLibrary&) = delete;
+  ComLibrary& operator=(const ComLibrary&) = delete;
+
+  ObjectPtr Create(std::wstring_view className) override;
+
+  Microsoft::WRL::ComPtr<IDispatch> Outward(const ObjectPtr& object) override;
+  ObjectPtr Inward(Microsoft::WRL::ComPtr<IDispatch> object, std::wstring_view className) override;
+
+  /// How the class's operations are called, found on an object of it at first.
+  ClassBinding& BindingFor(std::wstring_view className, IDispatch& object);
+  /// The same without an object, when a type library that is known already has the class; null
+  /// otherwise.
+  ClassBinding* BindingWithoutObject(std::wstring_view className);
+  /// The bare object, when it can be made.
+  HRESULT MakeObject(std::wstring_view className, Microsoft::WRL::ComPtr<IDispatch>& object);
+  /// Whether a class of that name is installed at all.
+  bool IsInstalled(std::wstring_view className);
+
+ private:
+  struct InstalledClass {
+    HRESULT found;
+    CLSID id;
+  };
+
+  const InstalledClass& Find(std::wstring_view className);
+  ClassBinding& Keep(std::unique_ptr<ClassBinding> binding);
+
+  ObjectSource& source_;
+  std::map<std::wstring, InstalledClass, std::less<>> classes_;
+  std::map<std::wstring, std::unique_ptr<ClassBinding>, std::less<>> bindings_;
+  std::vector<TypeLibrary> typeLibraries_;
+};
+
+}  // namespace hostlib::com

@@ -1,0 +1,80 @@
+#include "hostlib/com/ComObject.h"
+
+#include "hostlib/com/Failures.h"
+
+namespace hostlib::com {
+namespace {
+
+using Microsoft::WRL::ComPtr;
+
+// Nothing of a call with such a failure has left this program.
+[[noreturn]] void ThrowUnusable(HRESULT reason, const std::wstring& text) {
+  throw LibraryError(reason, L"hostlib", text, LibraryError::Outcome::kNotSent);
+}
+
+std::wstring NameOf(const Operation* operation, int slot) {
+  return operation != nullptr ? std::wstring(operation->name) : L"slot " + std::to_wstring(slot);
+}
+
+}  // namespace
+
+ComObject::ComObject(ComLibrary& library, std::wstring className, ComPtr<IDispatch> object)
+    : shared_(
+          std::make_shared<Shared>(Shared{library, std::move(className), std::move(object), {}})) {}
+
+Value ComObject::Call(int slot, const Arguments& arguments) {
+  const Operation* operation = FindOperation(ClassName(), number_, slot);
+  try {
+    return CallMember(slot, arguments, operation);
+  } catch (LibraryError& error) {
+    error.Locate(ClassName(), NameOf(operation, slot));
+    throw;
+  }
+}
+
+ObjectPtr ComObject::Interface(int number) {
+  ClassBinding& binding = shared_->library.BindingFor(ClassName(), *shared_->object.Get());
+  if (binding.InterfaceId(number) == nullptr) {
+    ThrowUnusable(E_NOINTERFACE, L"The object has no interface " + std::to_wstring(number));
+  }
+  return ObjectPtr(new ComObject(shared_, number));
+}
+
+Value ComObject::CallMember(int slot, const Arguments& arguments, const Operation* operation) {
+  const Member member = MemberFor(slot, arguments.size());
+  std::vector<Variant> handed;
+  for (const Value& argument : arguments) handed.push_back(ToVariant(argument, shared_->library));
+  const Variant answer = InvokeMember(Target(), member, std::move(handed));
+  return FromVariant(answer.get(), shared_->library,
+                     operation != nullptr ? operation->returnedClass : std::wstring_view());
+}
+
+Member ComObject::MemberFor(int slot, std::size_t arguments) {
+  if (slot == kDefaultMember) return {};
+  ClassBinding& binding = shared_->library.BindingFor(ClassName(), *shared_->object.Get());
+  const Member* member = binding.Find(number_, slot);
+  if (member == nullptr) {
+    ThrowUnusable(DISP_E_MEMBERNOTFOUND, L"The object has no slot " + std::to_wstring(slot));
+  }
+  if (member->references.size() != arguments) {
+    ThrowUnusable(DISP_E_BADPARAMCOUNT, L"The operation takes " +
+                                            std::to_wstring(member->references.size()) +
+                                            L" arguments instead of " + std::to_wstring(arguments));
+  }
+  return *member;
+}
+
+IDispatch& ComObject::Target() {
+  // What an object is called through by name is its first interface.
+  if (number_ == 1) return *shared_->object.Get();
+  ComPtr<IDispatch>& target = shared_->interfaces[number_];
+  if (target == nullptr) {
+    ClassBinding& binding = shared_->library.BindingFor(ClassName(), *shared_->object.Get());
+    // Every interface that is called by name begins with these entries.
+    Check(shared_->object->QueryInterface(*binding.InterfaceId(number_),
+                                          reinterpret_cast<void**>(target.GetAddressOf())));
+  }
+  return *target.Get();
+}
+
+}  // namespace hostlib::com

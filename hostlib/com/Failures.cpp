@@ -1,0 +1,59 @@
+#include "hostlib/com/Failures.h"
+
+#include "hostlib/com/CallOutcome.h"
+
+namespace hostlib::com {
+namespace {
+
+constexpr const wchar_t* kSource = L"hostlib";
+
+std::wstring Hexadecimal(HRESULT result) {
+  std::wstring text = L"0x";
+  for (int shift = 28; shift >= 0; shift -= 4) {
+    text += L"0123456789ABCDEF"[(static_cast<std::uint32_t>(result) >> shift) & 15U];
+  }
+  return text;
+}
+
+std::wstring TextIn(BSTR text) { return {text == nullptr ? L"" : text, SysStringLen(text)}; }
+
+}  // namespace
+
+std::wstring TextOf(HRESULT result) {
+  wchar_t text[512];
+  const DWORD length = FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS,
+                                      nullptr, static_cast<DWORD>(result), 0, text,
+                                      static_cast<DWORD>(std::size(text)), nullptr);
+  std::wstring words(text, length);
+  while (!words.empty() && (words.back() == L'\n' || words.back() == L'\r' || words.back() == L' '))
+    words.pop_back();
+  return words.empty() ? L"Error " + Hexadecimal(result) : words;
+}
+
+void ThrowLinkError(HRESULT result, const std::wstring& what) {
+  throw LibraryError(result, kSource, what.empty() ? TextOf(result) : what + L": " + TextOf(result),
+                     OutcomeOf(static_cast<std::uint32_t>(result)));
+}
+
+void ThrowMismatch(const std::wstring& detail) {
+  throw LibraryError(DISP_E_TYPEMISMATCH, kSource, L"Type mismatch: " + detail);
+}
+
+ExceptionInfo::~ExceptionInfo() {
+  SysFreeString(info_.bstrSource);
+  SysFreeString(info_.bstrDescription);
+  SysFreeString(info_.bstrHelpFile);
+}
+
+LibraryError ExceptionInfo::Error() {
+  if (info_.pfnDeferredFillIn != nullptr) {
+    info_.pfnDeferredFillIn(&info_);
+    info_.pfnDeferredFillIn = nullptr;
+  }
+  const std::int32_t number = info_.scode != 0 ? info_.scode : info_.wCode;
+  std::wstring text = TextIn(info_.bstrDescription);
+  if (text.empty()) text = TextOf(number);
+  return LibraryError(number, TextIn(info_.bstrSource), std::move(text));
+}
+
+}  // namespace hostlib::com

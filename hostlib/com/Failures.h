@@ -1,0 +1,41 @@
+#pragma once
+
+#include <windows.h>
+// The order matters: windows.h first.
+#include <oleauto.h>
+
+#include <string>
+
+#include "hostlib/Object.h"
+
+namespace hostlib::com {
+
+/// The system's words for a result, or its number when the system has none.
+std::wstring TextOf(HRESULT result);
+
+/// A failure of the link itself, in the system's words after `what` when there is any.
+[[noreturn]] void ThrowLinkError(HRESULT result, const std::wstring& what = {});
+inline void Check(HRESULT result, const std::wstring& what = {}) {
+  if (FAILED(result)) ThrowLinkError(result, what);
+}
+
+/// A value of a kind that this system's values can't hold, or not in this place.
+[[noreturn]] void ThrowMismatch(const std::wstring& detail);
+
+/// What the called object says about its failure; fetches what the object left for later.
+class ExceptionInfo {
+ public:
+  ExceptionInfo() = default;
+  ~ExceptionInfo();
+  ExceptionInfo(const ExceptionInfo&) = delete;
+  ExceptionInfo& operator=(const ExceptionInfo&) = delete;
+
+  EXCEPINFO* Out() { return &info_; }
+  /// The failure that the object raised.
+  LibraryError Error();
+
+ private:
+  EXCEPINFO info_{};
+};
+
+}  // namespace hostlib::com

@@ -1,0 +1,25 @@
+#include "hostlib/com/CallOutcome.h"
+#include "hostlib/com/Elevation.h"
+#include "hostlib/com/ObjectSource.h"
+
+namespace hostlib::com {
+
+HRESULT InstalledObjects::FindClass(std::wstring_view progId, CLSID& classId) {
+  return CLSIDFromProgID(std::wstring(progId).c_str(), &classId);
+}
+
+HRESULT InstalledObjects::Make(const CLSID& classId, Microsoft::WRL::ComPtr<IDispatch>& object) {
+  return CoCreateInstance(classId, nullptr, CLSCTX_INPROC_SERVER | CLSCTX_LOCAL_SERVER,
+                          IID_PPV_ARGS(&object));
+}
+
+bool InstalledObjects::IsOutOfReach(const CLSID& classId, HRESULT failure) {
+  if (IsThisProgramElevated()) return false;
+  if (failure == E_ACCESSDENIED || failure == kTerminalIsElevated) {
+    return true;
+  }
+  const std::wstring program = LocalServerOf(classId);
+  return !program.empty() && RunsElevated(program);
+}
+
+}  // namespace hostlib::com

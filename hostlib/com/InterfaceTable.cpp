@@ -1,0 +1,105 @@
+#include "hostlib/com/InterfaceTable.h"
+
+namespace hostlib::com {
+namespace {
+
+// The entries that every interface called by name begins with.
+constexpr int kStandardEntries = 7;
+// Type libraries use the lowest bits of an offset for themselves.
+constexpr int kOffsetMask = ~3;
+
+TypeInfo Referenced(const TypeInfo& type, UINT implemented) {
+  HREFTYPE reference = 0;
+  TypeInfo other;
+  if (FAILED(type->GetRefTypeOfImplType(implemented, &reference)) ||
+      FAILED(type->GetRefTypeInfo(reference, &other))) {
+    return nullptr;
+  }
+  return other;
+}
+
+// The half of a dual interface that has the table. Offsets and parameters of the other half are
+// those of calls by name.
+TypeInfo TableHalf(const TypeInfo& type) {
+  const TypeAttributes attributes(type);
+  if (attributes->typekind != TKIND_DISPATCH) return type;
+  if ((attributes->wTypeFlags & TYPEFLAG_FDUAL) == 0) return nullptr;
+  constexpr auto kOtherHalf = static_cast<UINT>(-1);
+  return Referenced(type, kOtherHalf);
+}
+
+VARTYPE ReferenceType(const ELEMDESC& parameter) {
+  if (parameter.tdesc.vt != VT_PTR) return VT_EMPTY;
+  switch (const VARTYPE pointed = parameter.tdesc.lptdesc->vt) {
+    case VT_VARIANT:
+    case VT_BSTR:
+    case VT_BOOL:
+    case VT_I2:
+    case VT_I4:
+    case VT_R8:
+      return pointed;
+    default:
+      return VT_EMPTY;
+  }
+}
+
+Member Described(const FunctionDescription& function) {
+  Member member;
+  member.id = function->memid;
+  member.kind = static_cast<WORD>(function->invkind);
+  for (SHORT i = 0; i < function->cParams; ++i) {
+    const ELEMDESC& parameter = function->lprgelemdescParam[i];
+    constexpr USHORT kNotAnArgument = PARAMFLAG_FRETVAL | PARAMFLAG_FLCID;
+    if ((parameter.paramdesc.wParamFlags & kNotAnArgument) != 0) continue;
+    member.references.push_back(ReferenceType(parameter));
+  }
+  return member;
+}
+
+}  // namespace
+
+InterfaceTable::InterfaceTable(const TypeInfo& type) : id_(TypeAttributes(type)->guid) {
+  ReadLevels(TableHalf(type));
+}
+
+void InterfaceTable::ReadLevels(TypeInfo type) {
+  while (type != nullptr) {
+    const TypeAttributes attributes(type);
+    if (attributes->guid == IID_IDispatch) {
+      const int size = attributes->cbSizeVft / kStandardEntries;
+      if (size == 4 || size == 8) entrySize_ = size;
+      return;
+    }
+    levels_.push_back({type, attributes->cFuncs});
+    type = attributes->cImplTypes == 0 ? nullptr : Referenced(type, 0);
+  }
+  // What does not come from the standard entries can't be called by name.
+  levels_.clear();
+}
+
+std::optional<Member> InterfaceTable::MemberInSlot(int slot) const {
+  for (const Level& level : levels_) {
+    if (auto member = MemberIn(level, slot)) return member;
+  }
+  return std::nullopt;
+}
+
+std::optional<Member> InterfaceTable::MemberIn(const Level& level, int slot) const {
+  const int wanted = slot * entrySize_;
+  const auto tried = [&](UINT index) -> std::optional<Member> {
+    const FunctionDescription function(level.type, index);
+    if ((function->oVft & kOffsetMask) != wanted) return std::nullopt;
+    return Described(function);
+  };
+  // Functions mostly stand in the order of their slots; to ask for one costs a round trip.
+  const auto guess = static_cast<UINT>(slot - kStandardEntries);
+  if (slot >= kStandardEntries && guess < level.functions) {
+    if (auto member = tried(guess)) return member;
+  }
+  for (UINT index = 0; index < level.functions; ++index) {
+    if (auto member = tried(index)) return member;
+  }
+  return std::nullopt;
+}
+
+}  // namespace hostlib::com
