@@ -24,7 +24,7 @@ void DropLeading(wchar_t separator, std::wstring& list) {
 }
 
 // An infant that travels with an adult stands in brackets behind the adult's name.
-std::wstring WithoutInfant(std::wstring name) {
+std::wstring WithoutInfant(const std::wstring& name) {
   const int bracket = common::InStr(name, L"(");
   return bracket == 0 ? name : common::Trim(common::Left(name, bracket - 1));
 }
