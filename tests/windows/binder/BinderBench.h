@@ -76,8 +76,12 @@ class BinderBench : public testing::Test {
     while (PeekMessageW(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE)) {
     }
     form.Hide();
+    try {
+      acting.get();
+    } catch (const driver::DriverError& error) {
+      ADD_FAILURE() << error.what();
+    }
     if (thrown) std::rethrow_exception(thrown);
-    acting.get();
   }
   /// For a person whose last act makes the desktop's loop end by itself.
   void WaitForTheEnd() {

@@ -188,8 +188,12 @@ TEST_F(FormWindowOnScreen, WhileTheGateIsShutNothingReachesTheForm) {
       driver::Press(Item(window, ID_txtPWCT), VK_F1);
       driver::Press(Item(window, ID_txtPWCT), VK_RETURN);
       driver::Press(Item(window, ID_txtPWCT), VK_ESCAPE);
+      driver::Press(Item(window, ID_txtPWCT), VK_TAB);
+      driver::Press(Item(window, ID_txtPWCT), 'P', driver::kAlt);
       driver::Click(Item(window, ID_cmdOK));
       driver::Click(Item(window, ID_chkOP));
+      SendMessageW(window, WM_COMMAND, MAKEWPARAM(ID_cmdOK, BN_CLICKED),
+                   reinterpret_cast<LPARAM>(Item(window, ID_cmdOK)));
       PostMessageW(window, WM_SYSCOMMAND, SC_CLOSE, 0);
       SendMessageW(Item(window, ID_cmdOK), BM_CLICK, 0, 0);
       SendMessageW(Item(window, ID_chkOP), BM_CLICK, 0, 0);
@@ -199,6 +203,7 @@ TEST_F(FormWindowOnScreen, WhileTheGateIsShutNothingReachesTheForm) {
       EXPECT_EQ(TextOf(Item(window, ID_txtPWCT)), L"as it was");
       EXPECT_EQ(SendMessageW(Item(window, ID_chkOP), BM_GETCHECK, 0, 0), BST_UNCHECKED);
       EXPECT_EQ(form.closeAsked, 0);
+      EXPECT_EQ(form.ActiveControl(), &form.txtPWCT);
     }
     WaitUntil(L"the timer is through again", [&] { return !log().empty(); });
   });

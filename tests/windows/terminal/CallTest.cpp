@@ -46,12 +46,4 @@ TEST(TerminalCall, WithoutATerminalWindowNoSessionCanBeMade) {
   EXPECT_EQ(static_cast<unsigned long>(client::Make(L"TerminalSession", session)), 0x80040902UL);
 }
 
-TEST(TerminalCall, NothingIsLeftOfReleasedObjects) {
-  {
-    const auto bag = client::Bag({{L"strKeyText", L"A"}});
-    EXPECT_EQ(client::LiveObjects(), 1);
-  }
-  EXPECT_EQ(client::LiveObjects(), 0);
-}
-
 }  // namespace

@@ -1,0 +1,86 @@
+#include "tests/windows/com/run/RunningTerminal.h"
+
+#include <filesystem>
+#include <fstream>
+
+#include "app/Program.h"
+#include "common/Text.h"
+#include "hostlib/Requests.h"
+#include "practice/rehearsal/ScriptedAgent.h"
+#include "tests/windows/driver/Driver.h"
+
+namespace com_run {
+
+namespace operations = hostlib::operations;
+
+RunningTerminal::RunningTerminal() {
+  const auto folder = std::filesystem::temp_directory_path() / "PtaComRun";
+  std::filesystem::create_directories(folder);
+  platform_.folder = folder.wstring();
+}
+
+RunningTerminal::~RunningTerminal() {
+  terminal_ = nullptr;
+  // One that only served objects ends by itself, and must, before the next test starts its own.
+  EXPECT_TRUE(driver::Holds([] { return terminal::Running() == 0; }));
+  std::error_code ignored;
+  std::filesystem::remove_all(platform_.folder, ignored);
+}
+
+void RunningTerminal::Start() {
+  terminal_ = std::make_unique<terminal::Process>(terminal::Program(), L"");
+  ASSERT_TRUE(
+      driver::Holds([] { return FindWindowW(L"VantelPracticeTerminal", nullptr) != nullptr; }));
+}
+
+void RunningTerminal::Load(const std::wstring& booking) {
+  const auto desk = client::Make(L"PracticeDesk");
+  std::vector<client::Variant> arguments;
+  arguments.push_back(client::Text(booking));
+  client::Call(*desk.Get(), L"LoadBooking", std::move(arguments));
+}
+
+std::wstring RunningTerminal::PnrText() {
+  const auto desk = client::Make(L"PracticeDesk");
+  return client::TextIn(client::Call(*desk.Get(), L"PnrText"));
+}
+
+practice::RehearsalOutcome RunningTerminal::Run(const practice::RehearsalScene& scene,
+                                                hostlib::CallHook& hook) {
+  practice::RehearsalOutcome outcome;
+  if (scene.hasIni) WriteIni(scene.ini);
+  platform_.today = scene.today;
+  platform_.decimal = scene.decimal;
+  StoreOffice(scene);
+  Load(scene.booking);
+  outcome.pnrBefore = PnrText();
+  practice::ScriptedAgent agent(practice::ReadAgentScript(scene.agent));
+  hostlib::InterposedLibrary hooked(library_, hook);
+  try {
+    outcome.exitCode = app::RunProgram(hooked, agent, platform_);
+    agent.Leave();
+  } catch (const practice::Disagreement& disagreement) {
+    outcome.disagreement = disagreement.words;
+  }
+  outcome.seen = agent.seen();
+  return outcome;
+}
+
+void RunningTerminal::WriteIni(const std::wstring& ini) {
+  const std::filesystem::path path = platform_.folder + L"\\PTA_QX.ini";
+  std::ofstream(path, std::ios::binary) << common::ToUtf8(ini);
+  platform_.files.insert(path.wstring());
+}
+
+void RunningTerminal::StoreOffice(const practice::RehearsalScene& scene) {
+  const auto store = library_.Create(operations::user_settings_store::kClass);
+  const auto save = [&store](std::wstring_view key, std::wstring_view text) {
+    store->Call(operations::user_settings_store::kSaveSetting.slot,
+                {hostlib::Value(L"PTAStartup"), hostlib::Value(L"Values"), hostlib::Value(key),
+                 hostlib::Value(text)});
+  };
+  save(L"OfficeID", scene.office);
+  save(L"Date", platform_.ShortDateText(scene.today));
+}
+
+}  // namespace com_run

@@ -1,0 +1,34 @@
+#include <gtest/gtest.h>
+
+#include "tests/windows/driver/Driver.h"
+#include "tests/windows/terminal/Client.h"
+#include "tests/windows/terminal/Terminal.h"
+
+namespace {
+
+using client::ComPtr;
+
+TEST(TerminalLifetime, NothingIsLeftOfReleasedObjects) {
+  {
+    const auto bag = client::Bag({{L"strKeyText", L"A"}});
+    EXPECT_EQ(client::LiveObjects(), 1);
+  }
+  EXPECT_EQ(client::LiveObjects(), 0);
+}
+
+TEST(TerminalLifetime, NothingIsLeftOfAClientThatWasKilled) {
+  const HANDLE held = CreateEventW(nullptr, TRUE, FALSE, L"PtaObjectsAreHeld");
+  terminal::Process holder(terminal::TestProgram(), L"--hold-objects");
+  ASSERT_EQ(WaitForSingleObject(held, 20'000), WAIT_OBJECT_0);
+  CloseHandle(held);
+  EXPECT_EQ(client::LiveObjects(), 2);
+  holder.Kill();
+  EXPECT_TRUE(driver::Holds([] { return client::LiveObjects() == 0; }, std::chrono::seconds(5)));
+}
+
+TEST(TerminalLifetime, AServerThatNobodyUsesEnds) {
+  client::Make(L"ParameterBag");
+  EXPECT_TRUE(driver::Holds([] { return terminal::Running() == 0; }));
+}
+
+}  // namespace
