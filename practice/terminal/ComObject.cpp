@@ -7,8 +7,13 @@ namespace practice::terminal {
 const IID kExportedId = {
     0x5a0f0c7e, 0x1c5f, 0x4a39, {0x9a, 0x21, 0x63, 0x0e, 0x7d, 0x50, 0x11, 0xb8}};
 
-ComObject::ComObject(Exporter& exporter, hostlib::ObjectPtr target, const LibraryClass& kind)
-    : exporter_(exporter), target_(std::move(target)), kind_(kind), parts_(kind.parts.size()) {
+ComObject::ComObject(Exporter& exporter, hostlib::ObjectPtr target, const LibraryClass& kind,
+                     ClientPtr client)
+    : exporter_(exporter),
+      target_(std::move(target)),
+      kind_(kind),
+      client_(std::move(client)),
+      parts_(kind.parts.size()) {
   exporter_.Began(*this);
 }
 

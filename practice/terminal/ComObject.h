@@ -53,7 +53,8 @@ extern const IID kExportedId;
 class ComObject final : public IExported, public ISupportErrorInfo, public IProvideClassInfo {
  public:
   /// Begins with one reference.
-  ComObject(Exporter& exporter, hostlib::ObjectPtr target, const LibraryClass& kind);
+  ComObject(Exporter& exporter, hostlib::ObjectPtr target, const LibraryClass& kind,
+            ClientPtr client);
   ComObject(const ComObject&) = delete;
   ComObject& operator=(const ComObject&) = delete;
 
@@ -66,6 +67,7 @@ class ComObject final : public IExported, public ISupportErrorInfo, public IProv
 
   Exporter& exporter() { return exporter_; }
   const LibraryClass& kind() const { return kind_; }
+  const ClientPtr& client() const { return client_; }
 
  private:
   ~ComObject();
@@ -75,6 +77,7 @@ class ComObject final : public IExported, public ISupportErrorInfo, public IProv
   Exporter& exporter_;
   hostlib::ObjectPtr target_;
   const LibraryClass& kind_;
+  ClientPtr client_;
   std::vector<std::unique_ptr<Part>> parts_;
 };
 

@@ -46,7 +46,8 @@ void Desk::DropSession(bool answerOnly) {
 }
 
 void Desk::SlowDown(std::function<void()> wait) {
-  host_.faults.slow = [wait = std::move(wait)](int) { wait(); };
+  host_.faults.slow = nullptr;
+  if (wait) host_.faults.slow = [wait = std::move(wait)](int) { wait(); };
 }
 
 bool Desk::IssueDocument() {

@@ -26,7 +26,7 @@ class Desk {
   void GarbleNext();
   /// The session is lost at the next entry; it may be the answer alone that is lost.
   void DropSession(bool answerOnly);
-  /// `wait` is called before every entry.
+  /// `wait` is called before every entry; null: no more.
   void SlowDown(std::function<void()> wait);
   bool IsSlow() const { return static_cast<bool>(host_.faults.slow); }
   /// The first MCO without a document gets one when the PNR is read again. False when every MCO

@@ -97,6 +97,7 @@ class Dual : public Base, public Part {
     if (!IsWanted(result)) return E_POINTER;
     // A client that dies inside the call takes its references along.
     const ComPtr<IUnknown> keep(this);
+    const Exporter::Serving serving(owner_.exporter(), owner_.client());
     return Guarded([&] {
       const ObjectPassage& passage = owner_.exporter().passage();
       Give(target_->Call(slot, {ToValue(given, passage)...}), result, passage);

@@ -37,7 +37,7 @@ ComPtr<IDispatch> Exporter::Export(const hostlib::ObjectPtr& object) {
     throw hostlib::LibraryError(REGDB_E_CLASSNOTREG, L"Practice library",
                                 std::wstring(object->ClassName()) + L" can not be handed out");
   }
-  auto* made = new ComObject(*this, object, *kind);
+  auto* made = new ComObject(*this, object, *kind, client_);
   const HRESULT found = made->QueryInterface(IID_PPV_ARGS(&result));
   made->Release();
   if (FAILED(found)) throw hostlib::LibraryError(found, L"Practice library", L"No interface");
@@ -57,9 +57,21 @@ int Exporter::Live() const {
   }));
 }
 
+void Exporter::DisconnectTheDead() {
+  Disconnect([](const ComObject& object) {
+    return object.client() != nullptr && object.client()->IsGone();
+  });
+}
+
 void Exporter::DisconnectAll() {
+  Disconnect([](const ComObject&) { return true; });
+}
+
+void Exporter::Disconnect(const std::function<bool(const ComObject&)>& which) {
   std::vector<ComPtr<IExported>> objects;
-  for (ComObject* object : live_) objects.emplace_back(object);
+  for (ComObject* object : live_) {
+    if (which(*object)) objects.emplace_back(object);
+  }
   for (const auto& object : objects) CoDisconnectObject(object.Get(), 0);
 }
 

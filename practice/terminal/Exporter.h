@@ -2,8 +2,10 @@
 
 #include <functional>
 #include <set>
+#include <utility>
 
 #include "hostlib/Object.h"
+#include "practice/terminal/Client.h"
 #include "practice/terminal/ProcessLife.h"
 #include "practice/terminal/TypeLibrary.h"
 #include "practice/terminal/Variants.h"
@@ -34,6 +36,22 @@ class Exporter {
   /// Told after every change of the number.
   std::function<void(int live)> onChange;
 
+  /// Objects handed out in its lifetime belong to this client; null: to nobody known.
+  class Serving {
+   public:
+    Serving(Exporter& exporter, ClientPtr client)
+        : exporter_(exporter), before_(std::exchange(exporter.client_, std::move(client))) {}
+    ~Serving() { exporter_.client_ = std::move(before_); }
+    Serving(const Serving&) = delete;
+    Serving& operator=(const Serving&) = delete;
+
+   private:
+    Exporter& exporter_;
+    ClientPtr before_;
+  };
+
+  /// Frees the objects of clients that have ended without releasing them.
+  void DisconnectTheDead();
   /// Takes every object away from its clients, whose calls fail from then on.
   void DisconnectAll();
 
@@ -43,10 +61,12 @@ class Exporter {
 
  private:
   void Changed() const;
+  void Disconnect(const std::function<bool(const ComObject&)>& which);
 
   const TypeLibrary& types_;
   ProcessLife& life_;
   ObjectPassage passage_;
+  ClientPtr client_;
   std::set<ComObject*> live_;
 };
 

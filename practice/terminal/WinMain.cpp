@@ -1,13 +1,16 @@
 #include <windows.h>
 
-#include "common/ConstDefintions.h"
+#include <optional>
+
 #include "common/Text.h"
 #include "practice/terminal/Registration.h"
-#include "practice/terminal/Server.h"
+#include "practice/terminal/TerminalWindow.h"
 
 namespace {
 
 using namespace practice::terminal;
+
+constexpr wchar_t kFirstBooking[] = L"ordinary";
 
 /// COM on this thread, which is the one that shows the windows.
 class Apartment {
@@ -23,8 +26,12 @@ class Apartment {
   HRESULT entered_;
 };
 
-int Serve() {
+/// A server until nobody needs it any more; with the terminal's window, until that is closed.
+int Serve(const std::optional<std::wstring>& booking) {
+  if (booking && TerminalWindow::ShowRunning(*booking)) return 0;
   Server server;
+  TerminalWindow window(server);
+  if (booking) window.Show(*booking);
   MSG message = {};
   while (GetMessageW(&message, nullptr, 0, 0) > 0 && !server.life().IsEnd(message)) {
     TranslateMessage(&message);
@@ -33,15 +40,22 @@ int Serve() {
   return 0;
 }
 
-/// The program's argument in lower case, without its "/" or "-"; "" when there is none.
-std::wstring OptionIn(const std::wstring& line) {
+/// The program's argument: an option, or the booking to begin with.
+std::wstring ArgumentIn(const std::wstring& line) {
   const std::wstring text = common::Trim(line);
+  const bool quoted = text.size() > 1 && text.front() == L'"' && text.back() == L'"';
+  return quoted ? text.substr(1, text.size() - 2) : text;
+}
+
+/// The option in capitals, without its "/" or "-"; "" when it is none.
+std::wstring OptionIn(const std::wstring& text) {
   if (text.empty() || (text[0] != L'/' && text[0] != L'-')) return {};
   return common::UpperCase(text.substr(1));
 }
 
 int Run(const std::wstring& line) {
-  const std::wstring option = OptionIn(line);
+  const std::wstring argument = ArgumentIn(line);
+  const std::wstring option = OptionIn(argument);
   if (option == L"REGSERVER") {
     const TypeLibrary types;
     return Registration(types).Register() ? 0 : 1;
@@ -51,7 +65,8 @@ int Run(const std::wstring& line) {
     Registration(types).Unregister();
     return 0;
   }
-  return Serve();
+  if (option == L"EMBEDDING") return Serve(std::nullopt);
+  return Serve(argument.empty() ? kFirstBooking : argument);
 }
 
 }  // namespace

@@ -1,0 +1,3 @@
+file(GLOB bookings ${FROM}/*.pnr)
+file(REMOVE_RECURSE ${TO})
+file(COPY ${bookings} DESTINATION ${TO})
