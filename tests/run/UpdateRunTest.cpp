@@ -43,6 +43,12 @@ TEST(UpdateRun, AnOfficeWithLH0AsksForAcknowledgementAndTheAGTForm) {
                                L"PLS ACK PTA FROM ARNAG2100 TO FRALH0123"));
 }
 
+TEST(UpdateRun, AnOfficeOfLHWithoutLH0IsLikeAnyOther) {
+  const auto outcome = RehearseInAgreement(SceneWith(L"type txtQueueingOfficeID \"FRALH1123\""));
+  EXPECT_TRUE(Holds(outcome.EntryTexts(), L"CH 7 O/PT/CASH"));
+  EXPECT_FALSE(common::Contains(JoinedEntry(outcome.EntryTexts()), L"PLS ACK"));
+}
+
 TEST(UpdateRun, NoTSTUpdateLeavesTheTSTsAlone) {
   const auto outcome = RehearseInAgreement(SceneWith(L"click chkTSTNoUpdate"));
   EXPECT_FALSE(AnyStartsWith(outcome.EntryTexts(), L"TU"));
