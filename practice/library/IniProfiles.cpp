@@ -125,16 +125,6 @@ bool HasOuterBlanks(std::wstring_view text) {
          (kBlanks.find(text.front()) != kBlanks.npos || kBlanks.find(text.back()) != kBlanks.npos);
 }
 
-bool IsInQuotes(std::wstring_view value) {
-  return value.size() >= 2 && value.front() == value.back() &&
-         (value.front() == L'"' || value.front() == L'\'');
-}
-
-std::wstring WrittenForm(std::wstring_view value) {
-  if (!HasOuterBlanks(value) && !IsInQuotes(value)) return std::wstring(value);
-  return L'"' + std::wstring(value) + L'"';
-}
-
 bool CanStandInAFile(std::wstring_view section, std::wstring_view key, std::wstring_view value) {
   constexpr std::wstring_view kBreaks(L"\r\n\0", 3);
   const auto isFree = [](std::wstring_view text, std::wstring_view of) {
@@ -184,7 +174,7 @@ bool IniProfiles::Write(std::wstring_view path, std::wstring_view section, std::
 
   const Content content = ContentOf(*bytes);
   IniText ini(content.text);
-  ini.Write(section, key, WrittenForm(value));
+  ini.Write(section, key, value);
   const std::optional<std::string> changed = content.code.encode(ini.text());
   return changed && PutInPlace(file, content.mark + *changed, before);
 }

@@ -24,8 +24,7 @@ TextCode Utf8Code();
 ///
 /// A write changes the line of its key, or adds what is missing at the end of the section or of
 /// the file; every other byte stays. The new file is made beside the old one and takes its place
-/// in one step, so that a reader never sees half of it. A value that begins or ends with a blank,
-/// or stands in quotes, is written in quotes: it is read as it was.
+/// in one step, so that a reader never sees half of it.
 class IniProfiles : public Profiles {
  public:
   explicit IniProfiles(TextCode code = Utf8Code()) : code_(std::move(code)) {}

@@ -22,6 +22,12 @@ std::wstring_view Unquoted(std::wstring_view value) {
   return quoted ? value.substr(1, value.size() - 2) : value;
 }
 
+// In quotes when it would otherwise be read as something else.
+std::wstring WrittenForm(std::wstring_view value) {
+  if (Unquoted(Stripped(value)) == value) return std::wstring(value);
+  return L'"' + std::wstring(value) + L'"';
+}
+
 bool SameName(std::wstring_view one, std::wstring_view other) {
   return common::UpperCase(Stripped(one)) == common::UpperCase(Stripped(other));
 }
@@ -66,9 +72,10 @@ std::wstring IniText::Read(std::wstring_view section, std::wstring_view key) con
 
 void IniText::Write(std::wstring_view section, std::wstring_view key, std::wstring_view value) {
   const Place place = Find(section, key);
-  const std::wstring line = std::wstring(key) + L"=" + std::wstring(value);
+  const std::wstring written = WrittenForm(value);
+  const std::wstring line = std::wstring(key) + L"=" + written;
   if (place.keyFound) {
-    text_.replace(place.valueStart, place.valueEnd - place.valueStart, value);
+    text_.replace(place.valueStart, place.valueEnd - place.valueStart, written);
   } else if (place.sectionFound) {
     text_.insert(place.sectionEnd, L"\r\n" + line);
   } else {

@@ -15,7 +15,8 @@ class IniText {
   /// "" when the section or the key is missing. The first of several wins.
   std::wstring Read(std::wstring_view section, std::wstring_view key) const;
   /// Changes the key's line alone, or adds it at the end of its section, or adds both at the end;
-  /// everything else stays as it is, character by character.
+  /// everything else stays as it is, character by character. A value that begins or ends with a
+  /// blank, or stands in quotes, is written in quotes: it is read as it was.
   void Write(std::wstring_view section, std::wstring_view key, std::wstring_view value);
 
   const std::wstring& text() const { return text_; }

@@ -50,5 +50,23 @@ TEST(IniText, ANewSectionGoesToTheEndOfTheFile) {
   EXPECT_EQ(file.Read(L"B", L"y"), L"2");
 }
 
+TEST(IniText, WhatIsWrittenIsReadAgain) {
+  for (const wchar_t* value : {L"", L" ", L"\t", L" leading", L"trailing ", L"\"quoted\"",
+                               L"'quoted'", L"\"", L"\"half"}) {
+    IniText file{std::wstring(kFile)};
+    file.Write(L"Settings", L"OPText", value);
+    EXPECT_EQ(file.Read(L"Settings", L"OPText"), value);
+    file.Write(L"New", L"Key", value);
+    EXPECT_EQ(file.Read(L"New", L"Key"), value);
+  }
+}
+
+TEST(IniText, OnlyAValueThatNeedsQuotesGetsThem) {
+  IniText file(L"[A]\r\n");
+  file.Write(L"A", L"x", L"1 2");
+  file.Write(L"A", L"y", L"1 ");
+  EXPECT_EQ(file.text(), L"[A]\r\nx=1 2\r\ny=\"1 \"\r\n");
+}
+
 }  // namespace
 }  // namespace practice
