@@ -72,7 +72,7 @@ std::wstring Amounts::Product(std::wstring_view amount, const tst::TSTInfo& tst)
   const double value = ParseAmount(WithoutCurrency(amount));
   // Counted in the shortest text of the value: zeros that the host wrote beyond it are taken for
   // the suffix.
-  const int digits = common::Length(common::NumberText(value, settings_.strSymbol));
+  const int digits = common::Length(common::HostNumberText(value));
   const std::wstring result = common::Left(amount, kCurrencyLength) +
                               common::NumberText(value * tst.intNoNames, settings_.strSymbol) +
                               common::Mid(amount, digits + kCurrencyLength + 1);

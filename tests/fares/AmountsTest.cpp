@@ -137,6 +137,11 @@ TEST_P(BothSymbols, QuirkZerosBeyondTheShortestTextCountAsSuffix) {
   }
 }
 
+TEST(MultiplyAmount, ASeparatorOfTwoCharactersDoesNotEatTheSuffix) {
+  FaresBench bench(L"::");
+  EXPECT_EQ(bench.Multiplied(L"SEK120.25XT", 2), L"SEK240.5XT");
+}
+
 TEST(MultiplyAmount, QuirkACommaInTheSuffixBecomesAPointWhenItIsTheUsersSymbol) {
   FaresBench comma(L",");
   EXPECT_EQ(comma.Multiplied(L"SEK120X,T", 2), L"SEK240X.T");
