@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include "fares/Amounts.h"
 #include "tests/fares/FaresBench.h"
 
@@ -90,24 +92,36 @@ TEST(MultiplyTSTValues, NothingIsMultipliedBehindATaxThatDoesNotConvert) {
   EXPECT_TRUE(bench.stop.isSet);
 }
 
-constexpr std::wstring tst::TSTTotals::*kSingleAmounts[] = {
-    &tst::TSTTotals::strFare, &tst::TSTTotals::strEquivalentFare, &tst::TSTTotals::strNetFare,
-    &tst::TSTTotals::strSellingFare, &tst::TSTTotals::strTotalFare};
+// In the order of multiplying; the lists come before the last.
+constexpr std::array kAmounts = {&tst::TSTTotals::strFare,     &tst::TSTTotals::strEquivalentFare,
+                                 &tst::TSTTotals::strNetFare,  &tst::TSTTotals::strSellingFare,
+                                 &tst::TSTTotals::strTaxList,  &tst::TSTTotals::strXFTax,
+                                 &tst::TSTTotals::strTotalFare};
 
-TEST(MultiplyTSTValues, OneBoxIsEnoughHoweverManyAmountsDoNotConvert) {
-  for (const auto bad : kSingleAmounts) {
+TEST(MultiplyTSTValues, NothingIsMultipliedBehindTheFirstAmountThatDoesNotConvert) {
+  for (std::size_t bad = 0; bad < kAmounts.size(); ++bad) {
     FaresBench bench;
-    for (const auto amount : kSingleAmounts) bench.totals.*amount = L"SEK1";
-    bench.totals.*bad = L"NONE";
-    // Behind the bad amount nothing is looked at; the total fare is the last anyway.
-    if (bad != &tst::TSTTotals::strTotalFare) {
-      bench.totals.strTotalFare = L"NONE";
-      bench.totals.strTaxList = L"NONE;NONE";
-      bench.totals.strXFTax = L"LAX1.2.3";
+    for (std::size_t i = 0; i < kAmounts.size(); ++i) {
+      bench.totals.*kAmounts[i] = i < bad ? L"SEK1" : L"SEK1.2.3";
     }
     bench.amounts.MultiplyTSTValues(FaresBench::TST(2));
-    EXPECT_EQ(bench.TakeCalls(), Lines{kReport26});
-    EXPECT_EQ(bench.totals.*bad, L"NONE");
+    for (std::size_t i = 0; i < kAmounts.size(); ++i) {
+      EXPECT_EQ(bench.totals.*kAmounts[i], i < bad ? L"SEK2" : L"SEK1.2.3") << bad << " " << i;
+    }
+    EXPECT_EQ(bench.TakeCalls(), Lines{kReport26}) << bad;
+  }
+}
+
+TEST(MultiplyTSTValues, TheAmountsAreMultipliedInTheirOrder) {
+  for (std::size_t bad = 0; bad < kAmounts.size(); ++bad) {
+    FaresBench bench;
+    for (const auto amount : kAmounts) bench.totals.*amount = L"SEK1";
+    bench.totals.*kAmounts[bad] = L"SEK1.2.3";
+    bench.amounts.MultiplyTSTValues(FaresBench::TST(2));
+    for (std::size_t i = 0; i < kAmounts.size(); ++i) {
+      if (i == bad) continue;
+      EXPECT_EQ(bench.totals.*kAmounts[i], i < bad ? L"SEK2" : L"SEK1") << bad;
+    }
   }
 }
 

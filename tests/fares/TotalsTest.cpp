@@ -130,6 +130,30 @@ TEST(AddTSTValues, ASumPastTheWidthIsReportedAndTheFareStays) {
   }
 }
 
+TEST(AddTSTValues, TheFieldsAreAddedInTheirOrderUpToTheFirstFailure) {
+  constexpr OtherField kOrder[] = {
+      {&pnr::MCOInfo::strFare, &tst::TSTTotals::strFare},
+      {&pnr::MCOInfo::strEquivalentFare, &tst::TSTTotals::strEquivalentFare},
+      {&pnr::MCOInfo::strNetFare, &tst::TSTTotals::strNetFare},
+      {&pnr::MCOInfo::strSellingFare, &tst::TSTTotals::strSellingFare},
+      {&pnr::MCOInfo::strTotalFare, &tst::TSTTotals::strTotalFare}};
+  for (std::size_t bad = 0; bad < std::size(kOrder); ++bad) {
+    FaresBench bench;
+    for (const auto& [mco, tst] : kOrder) bench.mco.*mco = bench.totals.*tst = L"SEK1";
+    bench.mco.*kOrder[bad].mco = L"SEK2147483647";
+    bench.totals.strTourCode = L"IT1";
+    bench.totals.strXFTax = bench.totals.strTaxList = L"SEK1XT";
+    bench.sums.AddTSTValues();
+    for (std::size_t i = 0; i < std::size(kOrder); ++i) {
+      if (i == bad) continue;
+      EXPECT_EQ(bench.mco.*kOrder[i].mco, i < bad ? L"SEK2" : L"SEK1") << bad;
+    }
+    const bool beyondTheTourCode = bad + 1 == std::size(kOrder);
+    EXPECT_EQ(bench.mco.strTourCode, beyondTheTourCode ? L"IT1" : L"") << bad;
+    EXPECT_EQ(bench.mco.strXFTax + bench.mco.strTaxList, L"") << bad;
+  }
+}
+
 TEST(AddTSTValues, TheTourCodeIsTakenOnceAndNeverSummed) {
   FaresBench bench;
   bench.totals.strTourCode = L"IT1";
