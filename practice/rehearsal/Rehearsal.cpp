@@ -37,14 +37,24 @@ platform::FixedPlatform PlatformOf(const RehearsalScene& scene) {
   return platform;
 }
 
-UserValuesInMemory UserValuesOf(const RehearsalScene& scene, const platform::Platform& platform) {
-  UserValuesInMemory values;
-  if (!scene.office.empty()) {
-    values.Save(L"PTAStartup", L"Values", L"OfficeID", scene.office);
-    values.Save(L"PTAStartup", L"Values", L"Date", platform.ShortDateText(scene.today));
+/// The user's stored office and its date.
+class OfficeOfTheUser : public UserValuesInMemory {
+ public:
+  OfficeOfTheUser(const RehearsalScene& scene, const platform::Platform& platform) {
+    if (scene.office.empty() && !scene.officeDate) return;
+    Save(kApplication, kSection, kOfficeID, scene.office);
+    Save(kApplication, kSection, kDate,
+         scene.officeDate.value_or(platform.ShortDateText(scene.today)));
   }
-  return values;
-}
+  std::wstring OfficeID() { return Get(kApplication, kSection, kOfficeID); }
+  std::wstring Date() { return Get(kApplication, kSection, kDate); }
+
+ private:
+  static constexpr std::wstring_view kApplication = L"PTAStartup";
+  static constexpr std::wstring_view kSection = L"Values";
+  static constexpr std::wstring_view kOfficeID = L"OfficeID";
+  static constexpr std::wstring_view kDate = L"Date";
+};
 
 // Texts of several lines as one.
 std::wstring OneLine(const std::wstring& text) {
@@ -73,7 +83,7 @@ std::vector<std::wstring> RehearsalOutcome::EntryTexts() const {
 RehearsalOutcome Rehearse(const RehearsalScene& scene) {
   RehearsalOutcome outcome;
   const platform::FixedPlatform platform = PlatformOf(scene);
-  UserValuesInMemory userValues = UserValuesOf(scene, platform);
+  OfficeOfTheUser userValues(scene, platform);
   IniOfTheScene ini(scene.hasIni ? scene.ini : std::wstring());
   ScriptedAgent agent(ReadAgentScript(scene.agent));
 
@@ -98,6 +108,8 @@ RehearsalOutcome Rehearse(const RehearsalScene& scene) {
   outcome.seen = agent.seen();
   outcome.pnrAfter = host.PnrText();
   outcome.iniAfter = ini.text();
+  outcome.officeAfter = userValues.OfficeID();
+  outcome.officeDateAfter = userValues.Date();
   outcome.printed = host.Printed();
   outcome.liveObjects = practiceLibrary.LiveObjects();
   return outcome;

@@ -3,6 +3,7 @@
 #include <chrono>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -19,6 +20,8 @@ struct RehearsalScene {
   bool hasIni = true;
   /// The office found earlier today, as the user's stored value; empty: the host is asked.
   std::wstring office = L"ARNAG2100";
+  /// The date stored with the office, when it is not today's; an empty office is then stored, too.
+  std::optional<std::wstring> officeDate;
   std::chrono::year_month_day today{std::chrono::year(2007), std::chrono::month(2),
                                     std::chrono::day(20)};
   std::string decimal = ",";
@@ -44,6 +47,8 @@ struct RehearsalOutcome {
   std::wstring pnrBefore;
   std::wstring pnrAfter;
   std::wstring iniAfter;
+  std::wstring officeAfter;      ///< the user's stored office
+  std::wstring officeDateAfter;  ///< and its date
   std::vector<std::wstring> printed;
   int liveObjects = 0;  ///< library objects not released
 
