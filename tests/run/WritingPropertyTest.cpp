@@ -132,6 +132,17 @@ ModelSettings SettingsBy(Chance& chance) {
   return settings;
 }
 
+// What just fits into one remark, behind its code and star.
+int LongestInfo(const BookingModel& booking, const std::vector<std::size_t>& chosen) {
+  ModelAssociation whom{L"", {}, booking.fares.size() > 1};
+  for (const std::size_t index : chosen) {
+    const ModelAssociation& one = booking.fares[index].whom;
+    if (one.type == L"INF") continue;
+    whom.passengers.insert(whom.passengers.end(), one.passengers.begin(), one.passengers.end());
+  }
+  return 124 - 4 - static_cast<int>(booking.AssociationText(whom).size());
+}
+
 ModelAgent AgentBy(Chance& chance, const BookingModel& booking, bool canInform, bool hasPWCT) {
   ModelAgent agent;
   for (std::size_t i = 0; i < booking.fares.size(); ++i) {
@@ -140,7 +151,11 @@ ModelAgent AgentBy(Chance& chance, const BookingModel& booking, bool canInform, 
   if (agent.chosen.empty()) agent.chosen.push_back(0);
   if (!hasPWCT) agent.pwct = chance.Words(chance.From(1, 160));
   if (hasPWCT && chance.OneIn(2)) agent.pwct = chance.Words(chance.From(1, 60));
-  if (canInform && chance.OneIn(2)) agent.backOfficeInfo = chance.Words(chance.From(1, 300));
+  if (canInform && chance.OneIn(2)) {
+    const int longest = LongestInfo(booking, agent.chosen);
+    agent.backOfficeInfo =
+        chance.Words(chance.OneIn(2) ? longest + chance.From(0, 1) : chance.From(1, 300));
+  }
   if (chance.OneIn(3)) agent.total = chance.Words(chance.From(1, 160));
   agent.office = chance.Of({L"", L"STOSK08AA", L"FRALH0123"});
   agent.queue = chance.Of({L"80", L"80C1", L"7"});
