@@ -25,7 +25,7 @@ std::wstring RowText(const SelectionRow& row) {
 SelectionRow ReadRow(std::wstring_view text, int segmentWidth) {
   int start = 1;
   const auto next = [&](int width) {
-    const std::wstring field = common::Trim(common::Mid(text, start, width));
+    std::wstring field = common::Trim(common::Mid(text, start, width));
     start += width;
     return field;
   };
