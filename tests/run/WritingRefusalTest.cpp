@@ -73,6 +73,18 @@ TEST_P(RefusalThatEndsTheRun, IsToldOnceAndNothingMoreIsSent) {
   EXPECT_EQ(outcome.seen.back(), L"closed frmPTA");
 }
 
+TEST_P(RefusalThatEndsTheRun, IsAlsoAnAnswerThatCannotBeReadThoughTheEntryWasTaken) {
+  const auto [name, entry, firstLine, number] = GetParam();
+  const Lines accepted = RehearseBooking(kBooking).EntryTexts();
+  const int place = PlaceOf(accepted, entry);
+  auto scene = SceneRefusing(0, Report(firstLine));
+  scene.prepare = [place](practice::Host& host) { host.faults.garbage[place] = L"?!"; };
+  const auto outcome = RehearseInAgreement(scene);
+  EXPECT_EQ(outcome.EntryTexts(), Lines(accepted.begin(), accepted.begin() + place));
+  EXPECT_EQ(CallsOf(outcome, L"ScriptErrorReporter.1.18"), ReportCalls(number, firstLine));
+  EXPECT_EQ(outcome.pnrAfter, PNRAfter({accepted.begin(), accepted.begin() + place}));
+}
+
 INSTANTIATE_TEST_SUITE_P(
     WritingRun, RefusalThatEndsTheRun,
     testing::Values(
