@@ -213,6 +213,16 @@ TEST(RunSequence, WithoutAnOfficeBothQueueFieldsStayEmptyEvenIfAQueueIsFound) {
   RehearseInAgreement(scene);
 }
 
+TEST(RunSequence, TheFourFieldsOfTheDocumentCannotBeTypedInto) {
+  for (const wchar_t* field :
+       {L"txtMCONumber", L"txtAirlinePrefix", L"txtCarrier", L"txtFormOfPayment"}) {
+    auto scene = OrdinaryScene();
+    scene.agent = L"form frmPTA\ntype " + std::wstring(field) + L" \"1\"\n";
+    const std::wstring disagreement = practice::Rehearse(scene).disagreement;
+    EXPECT_TRUE(common::Contains(disagreement, L"is locked")) << common::ToUtf8(disagreement);
+  }
+}
+
 TEST(RunSequence, TheSettingNotToUpdateTKTicksItsBox) {
   auto scene = OrdinaryScene();
   SetIni(scene, L"NoTKUpdate", L"Yes");

@@ -49,6 +49,20 @@ TEST(UpdateRun, AnOfficeOfLHWithoutLH0IsLikeAnyOther) {
   EXPECT_FALSE(common::Contains(JoinedEntry(outcome.EntryTexts()), L"PLS ACK"));
 }
 
+TEST(UpdateRun, WhatTheAgentTypedIsTakenWithoutTheBlanksAroundIt) {
+  const auto outcome = RehearseInAgreement(
+      SceneWith(L"type txtPTA \"  SEK900 \"\ntype txtRMBODInfo \"  PAID BY CARD \""));
+  EXPECT_TRUE(Holds(outcome.calls,
+                    L"ParameterBag.1.7 SetValue(\"strKeyText\", \"PTA TTL SEK900 + SEK250XP\")"));
+  EXPECT_TRUE(
+      Holds(outcome.calls, L"ParameterBag.1.7 SetValue(\"strKeyText\", \"*PAID BY CARD\")"));
+}
+
+TEST(UpdateRun, TheCommissionOfTheDialogIsWritten) {
+  const auto outcome = RehearseInAgreement(SceneWith(L"type txtCommission \" 9 \""));
+  EXPECT_TRUE(Holds(outcome.EntryTexts(), L"CH 8 9"));
+}
+
 TEST(UpdateRun, NoTSTUpdateLeavesTheTSTsAlone) {
   const auto outcome = RehearseInAgreement(SceneWith(L"click chkTSTNoUpdate"));
   EXPECT_FALSE(AnyStartsWith(outcome.EntryTexts(), L"TU"));
