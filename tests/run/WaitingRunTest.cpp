@@ -9,7 +9,7 @@
 namespace run {
 namespace {
 
-constexpr std::wstring_view kBooking = L"TR FA 1 117-4012345678 AFTER 2";
+constexpr std::wstring_view kOnItsWay = L"TR FA 1 117-4012345678 AFTER 2";
 
 std::wstring WaitedFor(int minutes) {
   return L"see staStatusText \"Waiting for MCO segments to be completed with FA elements - waited "
@@ -20,7 +20,7 @@ std::wstring WaitedFor(int minutes) {
 /// The document comes with this re-read; the first is the one before the dialog appears.
 practice::RehearsalScene SceneWithDocumentAfter(int rereads, const std::wstring& agent) {
   auto scene = SceneOf("document-on-its-way");
-  Change(scene.booking, kBooking, L"TR FA 1 117-4012345678 AFTER " + std::to_wstring(rereads));
+  Change(scene.booking, kOnItsWay, L"TR FA 1 117-4012345678 AFTER " + std::to_wstring(rereads));
   scene.agent = agent;
   return scene;
 }
