@@ -91,6 +91,25 @@ TEST(WritingRun, APWCTRemarkThatIsChangedKeepsItsPlaceAndItsPassengers) {
   EXPECT_EQ(NewElements(outcome).size(), 4u);
 }
 
+TEST(WritingRun, BlanksAroundWhatIsTypedDoNotCount) {
+  auto scene = SceneOf("write-pwct-kept");
+  Change(scene.agent, L"click",
+         L"type txtPWCT \"  SK AT ARN \"\ntype txtPTA \"  SEK1 ALL IN ALL \"\ntype txtRMBODInfo "
+         L"\"   \"\nclick");
+  const auto outcome = RehearseInAgreement(scene);
+  EXPECT_EQ(NewElements(outcome),
+            (Lines{L"FO 117-4012345678 STO 80246878 [P1]", L"OP 16MAR07 CHECK IF TICKET OK",
+                   L"RM PTA TTL SEK1 ALL IN ALL + SEK250XP [P1]",
+                   L"RM *FARE:1160,TAX:160,PTA:250 [P1]"}));
+  EXPECT_EQ(EntriesOfWriting(outcome)[1], L"CH 7 O/PT/CASH");  // the remark stays
+}
+
+TEST(WritingRun, APWCTTextOfBlanksAloneIsTakenAsItComes) {
+  auto scene = SceneOf("write-no-office");
+  Change(scene.agent, L"\"SK AT ARN\"", L"\"  \"");
+  EXPECT_TRUE(Holds(NewElements(RehearseInAgreement(scene)), L"RM PWCT  [P1]"));
+}
+
 TEST(WritingRun, APWCTTextThatDiffersInItsBlanksAloneIsAnotherText) {
   auto scene = SceneOf("write-pwct-kept");
   Change(scene.agent, L"click", L"type txtPWCT \"SK  AT ARN\"\nclick");
