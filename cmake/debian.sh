@@ -4,7 +4,7 @@ say() { printf '== %s\n' "$*"; }
 
 # install_missing PART...: installs the Debian packages of these parts that are not there yet.
 #   native    compiler, CMake, Ninja, ccache and GoogleTest's sources
-#   windows   the cross compiler, Wine with its fonts, a virtual display, ImageMagick
+#   windows   the cross compiler, the type library compiler and its headers, Wine with its fonts, a virtual display, ImageMagick
 #   checks    clang-format
 install_missing() {
   local part package
@@ -13,8 +13,8 @@ install_missing() {
     case $part in
       native) wanted+=(g++ googletest) ;;
       windows)
-        wanted+=(g++-mingw-w64-x86-64-posix googletest wine64 fonts-wine xvfb
-          imagemagick util-linux)
+        wanted+=(g++-mingw-w64-x86-64-posix mingw-w64-tools libwine-dev googletest wine64
+          fonts-wine xvfb imagemagick util-linux)
         ;;
       checks) wanted+=(clang-format git) ;;
     esac
