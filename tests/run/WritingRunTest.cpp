@@ -104,6 +104,16 @@ TEST(WritingRun, BlanksAroundWhatIsTypedDoNotCount) {
   EXPECT_EQ(EntriesOfWriting(outcome)[1], L"CH 7 O/PT/CASH");  // the remark stays
 }
 
+TEST(WritingRun, ACommissionThatTheAgentTypesIsTheOneThatIsWritten) {
+  auto scene = SceneOf("write-nine-passengers");
+  Change(scene.agent, L"click cmdOK\n", L"");
+  Change(scene.agent, L"pick lstTST 1,3\n", L"pick lstTST 1,3\nclick cmdOK\n");
+  scene.agent += L"type txtCommission \" 7 \"\nclick cmdOK\n";
+  const auto outcome = RehearseInAgreement(scene);
+  EXPECT_EQ(EntriesOfWriting(outcome)[1], L"CH 17 7");
+  EXPECT_EQ(NewElements(outcome)[1], L"FM 7 [P6,7,8 S10-11]");
+}
+
 TEST(WritingRun, APWCTTextOfBlanksAloneIsTakenAsItComes) {
   auto scene = SceneOf("write-no-office");
   Change(scene.agent, L"\"SK AT ARN\"", L"\"  \"");
