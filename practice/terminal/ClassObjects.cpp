@@ -89,10 +89,9 @@ ClassObjects::ClassObjects(hostlib::Library& library, Exporter& exporter)
 
 ClassObjects::~ClassObjects() {
   SetEvent(end_);
-  // A request that is under way waits for this thread.
-  while (MsgWaitForMultipleObjects(1, &ended_, FALSE, INFINITE, QS_SENDMESSAGE) != WAIT_OBJECT_0) {
-    MSG message = {};
-    PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE | PM_QS_SENDMESSAGE);
+  // Requests that are under way, and the other apartment's last references, wait for this thread.
+  DWORD index = 0;
+  while (CoWaitForMultipleHandles(0, INFINITE, 1, &ended_, &index) == RPC_S_CALLPENDING) {
   }
   thread_.join();
   for (const HANDLE event : {ready_, end_, ended_}) CloseHandle(event);

@@ -1,0 +1,177 @@
+#include <gmock/gmock.h>
+
+#include <future>
+
+#include "practice/terminal/TerminalMenu.h"
+#include "practice/terminal/TerminalWindow.h"
+#include "tests/windows/driver/Driver.h"
+#include "tests/windows/terminal/Client.h"
+#include "tests/windows/terminal/Terminal.h"
+
+namespace {
+
+using client::Call;
+using client::ComPtr;
+using client::Failure;
+using client::Variant;
+using practice::terminal::Command;
+using testing::HasSubstr;
+
+std::vector<Variant> One(Variant argument) {
+  std::vector<Variant> arguments;
+  arguments.push_back(std::move(argument));
+  return arguments;
+}
+
+class TerminalWindow : public testing::Test {
+ protected:
+  TerminalWindow() : process_(terminal::Program(), L"ordinary") {
+    driver::WaitUntil(L"the terminal is shown", [this] {
+      window_ = FindWindowW(practice::terminal::kTerminalClass, nullptr);
+      return window_ != nullptr && IsWindowVisible(window_);
+    });
+  }
+
+  // Not killed: the system may go on offering the classes of a process that did not take them back.
+  ~TerminalWindow() override {
+    if (!process_.IsRunning()) return;
+    PostMessageW(window_, WM_CLOSE, 0, 0);
+    process_.Wait();
+  }
+
+  HWND Entry() const { return driver::Item(window_, practice::terminal::kEntryId); }
+  std::wstring Transcript() const {
+    return driver::TextOf(driver::Item(window_, practice::terminal::kTranscriptId));
+  }
+  std::wstring Status() const {
+    return driver::TextOf(driver::Item(window_, practice::terminal::kStatusId));
+  }
+  void Choose(Command command) const {
+    SendMessageW(window_, WM_COMMAND, static_cast<WPARAM>(command), 0);
+  }
+  bool Shows(const std::wstring& text) const {
+    return driver::Holds([&] { return Transcript().find(text) != std::wstring::npos; });
+  }
+  bool Says(const std::wstring& text) const {
+    return driver::Holds([&] { return Status().find(text) != std::wstring::npos; });
+  }
+  void Enter(const std::wstring& entry) const {
+    driver::Type(Entry(), entry);
+    driver::Press(Entry(), VK_RETURN);
+  }
+  static std::wstring Send(const std::wstring& entry) {
+    const auto session = client::Make(L"TerminalSession");
+    return client::TextIn(Call(*session.Get(), L"SendCommand", One(client::Text(entry))));
+  }
+
+  terminal::Process process_;
+  HWND window_ = nullptr;
+};
+
+TEST_F(TerminalWindow, SaysThatThisIsPractice) {
+  EXPECT_THAT(driver::TextOf(window_), HasSubstr(L"PRACTICE"));
+  EXPECT_THAT(Status(), HasSubstr(L"PRACTICE - no real host"));
+}
+
+TEST_F(TerminalWindow, ShowsAnEntryThatIsTypedAndItsAnswer) {
+  Enter(L"RT");
+  EXPECT_TRUE(Shows(L"> RT\r\n"));
+  EXPECT_TRUE(Shows(L"SMITH/JOHN MR"));
+  EXPECT_EQ(driver::TextOf(Entry()), L"");
+}
+
+TEST_F(TerminalWindow, TheArrowKeysBringEarlierEntriesBack) {
+  Enter(L"RT");
+  Enter(L"PV");
+  driver::Press(Entry(), VK_UP);
+  EXPECT_TRUE(driver::Holds([this] { return driver::TextOf(Entry()) == L"PV"; }));
+  driver::Press(Entry(), VK_UP);
+  EXPECT_TRUE(driver::Holds([this] { return driver::TextOf(Entry()) == L"RT"; }));
+  driver::Press(Entry(), VK_DOWN);
+  EXPECT_TRUE(driver::Holds([this] { return driver::TextOf(Entry()) == L"PV"; }));
+}
+
+TEST_F(TerminalWindow, ShowsWhatAScriptEnters) {
+  EXPECT_THAT(Send(L"OS SK PTA"), HasSubstr(L"OS SK PTA"));
+  EXPECT_TRUE(Shows(L"> OS SK PTA\r\n"));
+}
+
+TEST_F(TerminalWindow, CountsTheObjectsOfScripts) {
+  EXPECT_TRUE(Says(L"Objects in use: 0"));
+  {
+    const auto bag = client::Bag();
+    EXPECT_TRUE(Says(L"Objects in use: 1"));
+  }
+  EXPECT_TRUE(Says(L"Objects in use: 0"));
+}
+
+TEST_F(TerminalWindow, TheHostRefusesOneEntryOnDemand) {
+  Choose(Command::kRefuseNext);
+  EXPECT_THAT(Status(), HasSubstr(L"refuses the next entry"));
+  EXPECT_EQ(Send(L"RT"), L"REFUSED: THE TRAINER WANTS IT SO");
+  EXPECT_THAT(Send(L"RT"), HasSubstr(L"SMITH/JOHN MR"));
+}
+
+TEST_F(TerminalWindow, TheSessionIsLostOnDemandAndBackAgain) {
+  Choose(Command::kLoseEntry);
+  EXPECT_THROW(Send(L"RT"), Failure);
+  EXPECT_THAT(Status(), HasSubstr(L"session lost"));
+  Choose(Command::kBehaveWell);
+  EXPECT_THAT(Send(L"RT"), HasSubstr(L"SMITH/JOHN MR"));
+}
+
+TEST_F(TerminalWindow, ASecondStartShowsTheRunningOneAndOpensItsBookingThere) {
+  EXPECT_EQ(terminal::Process(terminal::Program(), L"document-on-its-way").Wait(), 0U);
+  EXPECT_THAT(Status(), HasSubstr(L"Booking: document-on-its-way"));
+  EXPECT_EQ(terminal::Running(), 1);
+}
+
+TEST_F(TerminalWindow, IssuesTheMissingDocument) {
+  terminal::Process(terminal::Program(), L"document-on-its-way").Wait();
+  EXPECT_EQ(Send(L"RT").find(L",FA "), std::wstring::npos);
+  Choose(Command::kIssueDocument);
+  EXPECT_THAT(Send(L"IR"), HasSubstr(L",FA 117-4012345671"));
+}
+
+TEST_F(TerminalWindow, StaysResponsiveWhileASlowHostAnswersAScript) {
+  Choose(Command::kSlow);
+  auto answer = std::async(std::launch::async, [] {
+    CoInitializeEx(nullptr, COINIT_MULTITHREADED);
+    const std::wstring text = Send(L"RT");
+    CoUninitialize();
+    return text;
+  });
+  int looks = 0;
+  while (answer.wait_for(std::chrono::milliseconds(50)) != std::future_status::ready) {
+    DWORD_PTR result = 0;
+    ASSERT_NE(SendMessageTimeoutW(window_, WM_NULL, 0, 0, SMTO_ABORTIFHUNG, 1000, &result), 0);
+    ++looks;
+  }
+  EXPECT_GT(looks, 10);
+  EXPECT_THAT(answer.get(), HasSubstr(L"SMITH/JOHN MR"));
+}
+
+TEST_F(TerminalWindow, ClosingItEndsTheSessionsOfScripts) {
+  const auto session = client::Make(L"TerminalSession");
+  PostMessageW(window_, WM_CLOSE, 0, 0);
+  process_.Wait();
+  EXPECT_THROW(Call(*session.Get(), L"LoadPNR"), Failure);
+}
+
+TEST_F(TerminalWindow, ClosingItInTheMiddleOfACallEndsTheCall) {
+  Choose(Command::kSlow);
+  auto answer = std::async(std::launch::async, [] {
+    CoInitializeEx(nullptr, COINIT_MULTITHREADED);
+    try {
+      Send(L"RT");
+    } catch (const Failure&) {
+    }
+    CoUninitialize();
+  });
+  EXPECT_TRUE(Says(L"Objects in use: 1"));
+  PostMessageW(window_, WM_CLOSE, 0, 0);
+  process_.Wait();
+  answer.get();
+}
+
+}  // namespace
