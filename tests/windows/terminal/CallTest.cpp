@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "VantelPractice.h"
 #include "tests/windows/terminal/Client.h"
 #include "tests/windows/terminal/Terminal.h"
 
@@ -44,6 +45,48 @@ TEST(TerminalCall, AFailureArrivesWithNumberSourceAndText) {
 TEST(TerminalCall, WithoutATerminalWindowNoSessionCanBeMade) {
   ComPtr<IDispatch> session;
   EXPECT_EQ(static_cast<unsigned long>(client::Make(L"TerminalSession", session)), 0x80040902UL);
+}
+
+TEST(TerminalCall, AMethodIsReachedThroughItsPlaceInTheInterfaceToo) {
+  const auto object = client::Make(L"ScriptGlobal");
+  ComPtr<IScriptGlobal> global;
+  ASSERT_EQ(object.As(&global), S_OK);
+  hostlib::com::Bstr field;
+  ASSERT_EQ(global->GetField(hostlib::com::Bstr(L"AP,TK").get(), 2, hostlib::com::Bstr(L",").get(),
+                             field.Out()),
+            S_OK);
+  EXPECT_EQ(field.view(), L"TK");
+}
+
+TEST(TerminalCall, APlaceholderDoesNothing) {
+  const auto object = client::Make(L"ScriptGlobal");
+  ComPtr<IScriptGlobal> global;
+  ASSERT_EQ(object.As(&global), S_OK);
+  EXPECT_EQ(global->Unused8(), E_NOTIMPL);
+}
+
+HRESULT ResultOf(IDispatch& object, const wchar_t* name, std::vector<Variant> arguments) {
+  try {
+    Call(object, name, std::move(arguments));
+    return S_OK;
+  } catch (const Failure& failure) {
+    return failure.result;
+  }
+}
+
+TEST(TerminalCall, WrongArgumentsAreRefusedAndTheTerminalGoesOn) {
+  const auto global = client::Make(L"ScriptGlobal");
+  const auto builder = client::Make(L"PnrElementBuilderRM");
+  EXPECT_EQ(ResultOf(*global.Get(), L"GetField", Arguments(client::Text(L"A"))),
+            DISP_E_BADPARAMCOUNT);
+  EXPECT_EQ(ResultOf(*global.Get(), L"NoSuchOperation", {}), DISP_E_UNKNOWNNAME);
+  EXPECT_EQ(ResultOf(*builder.Get(), L"Execute", Arguments(client::Text(L"no bag"))),
+            DISP_E_TYPEMISMATCH);
+  EXPECT_EQ(ResultOf(*builder.Get(), L"Execute", Arguments(client::Object(nullptr))),
+            DISP_E_EXCEPTION);
+  EXPECT_EQ(ResultOf(*builder.Get(), L"Execute", Arguments(client::Object(global))),
+            DISP_E_EXCEPTION);
+  EXPECT_EQ(client::TextIn(Call(*global.Get(), L"ToText", Arguments(client::Number(7)))), L"7");
 }
 
 }  // namespace
