@@ -33,6 +33,8 @@ std::wstring WithoutCurrency(std::wstring_view amount) {
   return common::Mid(amount, kCurrencyLength + 1);
 }
 
+double AmountIn(std::wstring_view amount) { return common::HostNumber(WithoutCurrency(amount)); }
+
 std::wstring AmountText(double amount, const settings::Settings& settings) {
   const std::wstring text = common::NumberText(amount, settings.strSymbol);
   return common::Replace(text, settings.strSymbol, L".");

@@ -17,6 +17,9 @@ inline constexpr int kCurrencyLength = 3;
 /// What follows the currency code; "" when nothing does.
 std::wstring WithoutCurrency(std::wstring_view amount);
 
+/// The number behind the currency code, by the host's number reading: the same in every locale.
+double AmountIn(std::wstring_view amount);
+
 /// A number in the host's form.
 std::wstring AmountText(double amount, const settings::Settings& settings);
 

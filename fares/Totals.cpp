@@ -11,8 +11,6 @@
 namespace fares {
 namespace {
 
-double AmountIn(std::wstring_view text) { return common::HostNumber(WithoutCurrency(text)); }
-
 std::int32_t WholeAmountIn(std::wstring_view text) { return common::ToLong(AmountIn(text)); }
 
 // Each addend is rounded before it is added; a sum that does not fit is a failure.

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "common/ConstDefintions.h"
-#include "common/Numbers.h"
 #include "common/Text.h"
 
 namespace tst {
@@ -128,7 +127,7 @@ void SendTSTTrans::DeriveMCOData() {
   if (mco.strAirlineCode.empty()) mco.strAirlineCode = common::Left(general.strFirstFlightNo, 2);
   mco.strPasAsso = global_.FormatAssociation(mco.strPasAsso);
   if (common::Contains(common::Trim(mco.strSegAsso), L" + ")) mco.strSegAsso.clear();
-  const bool hasNoTotal = common::HostNumber(fares::WithoutCurrency(mco.strTotalFare)) == 0;
+  const bool hasNoTotal = fares::AmountIn(mco.strTotalFare) == 0;
   if (hasNoTotal && mco.blnReissue) sums_.CalculateTotalFare();
 }
 

@@ -9,10 +9,6 @@ namespace {
 
 namespace procedures = errors::procedures;
 
-double AmountIn(const std::wstring& text) {
-  return common::HostNumber(fares::WithoutCurrency(text));
-}
-
 }  // namespace
 
 TSTDetailReader::TSTDetailReader(hostlib::Library& library, hostlib::ScriptGlobal& global,
@@ -118,7 +114,8 @@ void TSTDetailReader::AddToFirstOrLaterTotal() {
     totals.strTotalFareFirstTST = totals.strTotalFare;
     return;
   }
-  const double sum = AmountIn(totals.strTotalFareLastTSTs) + AmountIn(totals.strTotalFare);
+  const double sum =
+      fares::AmountIn(totals.strTotalFareLastTSTs) + fares::AmountIn(totals.strTotalFare);
   totals.strTotalFareLastTSTs = records_.mco.strCurrency + common::HostNumberText(sum);
 }
 

@@ -5,17 +5,13 @@
 
 #include "common/Numbers.h"
 #include "common/Text.h"
+#include "fares/Amounts.h"
 
 namespace updates {
 namespace {
 
 constexpr std::wstring_view kVATCountry = L"SE";
 constexpr std::wstring_view kVATCode = L"XSGO";
-constexpr int kAfterCurrency = 4;
-
-double AmountIn(std::wstring_view text) {
-  return common::HostNumber(common::Mid(text, kAfterCurrency));
-}
 
 }  // namespace
 
@@ -29,7 +25,7 @@ std::wstring BackOfficeRemark::CreateRMStarElement() {
   errors_.Run(errors::procedures::kCreateRMStar, [&] {
     const int passengers = CountPassengers();
     const std::wstring fee = FeeGroup(passengers);
-    const double fare = AmountIn(mco_.strTotalFare) / passengers;
+    const double fare = fares::AmountIn(mco_.strTotalFare) / passengers;
     const Taxes taxes = TaxesEach(passengers);
     remark = L"*" + Group(L"FARE", fare) + GroupUnlessZero(L",TAX", taxes.tax) + fee +
              GroupUnlessZero(L",VAT", taxes.vat);
@@ -59,7 +55,7 @@ BackOfficeRemark::Taxes BackOfficeRemark::TaxesEach(int passengers) {
     if (entry.empty()) return taxes;
     const bool isVAT = settings_.strCountryCode == kVATCountry &&
                        common::Right(entry, common::Length(kVATCode)) == kVATCode;
-    (isVAT ? taxes.vat : taxes.tax) += AmountIn(entry) / passengers;
+    (isVAT ? taxes.vat : taxes.tax) += fares::AmountIn(entry) / passengers;
   }
 }
 

@@ -146,6 +146,20 @@ TEST(Form, ALostFocusThatMovesTheFocusOnSkipsTheControlBetween) {
   EXPECT_EQ(bench.form.ActiveControl(), &bench.form.third);
 }
 
+TEST(Form, ALostFocusThatMovesTheFocusAwayAndBackGivesItOnce) {
+  ShownBench bench;
+  bench.form.first.SetFocus();
+  bench.form.TakeEvents();
+  bench.form.first.onLostFocus = [&] {
+    bench.form.third.SetFocus();
+    bench.form.second.SetFocus();
+  };
+  bench.form.second.SetFocus();
+  EXPECT_EQ(bench.form.TakeEvents(),
+            (Events{L"lost second", L"got third", L"lost third", L"got second"}));
+  EXPECT_EQ(bench.form.ActiveControl(), &bench.form.second);
+}
+
 TEST(Form, TheFocusCanLeaveTheFormAltogether) {
   ShownBench bench;
   bench.form.first.SetFocus();

@@ -61,8 +61,11 @@ void Form::FocusMovedTo(Control* control) {
   if (control == active_) return;
   Control* const left = active_;
   active_ = control;
+  const unsigned move = ++focusMoves_;
   if (left != nullptr && left->onLostFocus) left->onLostFocus();
-  if (active_ == control && control != nullptr && control->onGotFocus) control->onGotFocus();
+  // Without a further move the active control may still be another: unloading leaves none.
+  const bool stands = move == focusMoves_ && active_ == control;
+  if (stands && control != nullptr && control->onGotFocus) control->onGotFocus();
 }
 
 void Form::AskFocus(Control& control) {

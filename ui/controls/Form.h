@@ -68,7 +68,8 @@ class Form {
   void Shown(FormView& view);
   void Detach() { view_ = nullptr; }
   FormView* view() const { return view_; }
-  /// Raises LostFocus, then GotFocus unless the first handler moved the focus on.
+  /// Raises LostFocus, then GotFocus unless the first handler moved the focus on, be it to the same
+  /// control in the end.
   void FocusMovedTo(Control* control);
 
  protected:
@@ -88,6 +89,7 @@ class Form {
   bool loaded_ = false;
   bool visible_ = false;
   Control* active_ = nullptr;
+  unsigned focusMoves_ = 0;
   FormView* view_ = nullptr;
 };
 
