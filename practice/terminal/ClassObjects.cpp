@@ -59,7 +59,7 @@ class ClassFactory final : public IClassFactory {
     const Exporter::Serving serving(exporter_, client);
     HRESULT marshalled = E_FAIL;
     const HRESULT made = Guarded([&] {
-      const ComPtr<IDispatch> object = exporter_.Export(library_.Create(kind_.name));
+      const ComPtr<IDispatch> object = exporter_.Outward(library_.Create(kind_.name));
       marshalled = CoMarshalInterThreadInterfaceInStream(id, object.Get(), &passed);
     });
     return FAILED(made) ? made : marshalled;

@@ -6,7 +6,6 @@
 
 #include "hostlib/Object.h"
 #include "practice/terminal/Exporter.h"
-#include "practice/terminal/Variants.h"
 
 namespace practice::terminal {
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <new>
+
 #include "practice/terminal/ComObject.h"
 #include "practice/terminal/Failures.h"
 
@@ -8,42 +10,45 @@ namespace practice::terminal {
 struct NoResult {};
 inline constexpr NoResult kNoResult;
 
+using hostlib::com::ObjectGate;
+
 // What a method is called with, as the library's values.
-inline hostlib::Value ToValue(BSTR text, const ObjectPassage&) { return TextOf(text); }
-inline hostlib::Value ToValue(long number, const ObjectPassage&) {
+inline hostlib::Value ToValue(BSTR text, ObjectGate&) {
+  return text == nullptr ? std::wstring() : std::wstring(text, SysStringLen(text));
+}
+inline hostlib::Value ToValue(long number, ObjectGate&) {
   return static_cast<std::int32_t>(number);
 }
-inline hostlib::Value ToValue(VARIANT_BOOL flag, const ObjectPassage&) {
-  return flag != VARIANT_FALSE;
+inline hostlib::Value ToValue(VARIANT_BOOL flag, ObjectGate&) { return flag != VARIANT_FALSE; }
+inline hostlib::Value ToValue(IDispatch* object, ObjectGate& gate) {
+  return object == nullptr ? hostlib::Value() : hostlib::Value(gate.Inward(object, {}));
 }
-inline hostlib::Value ToValue(IDispatch* object, const ObjectPassage& passage) {
-  return object == nullptr ? hostlib::Value() : hostlib::Value(passage.in(object));
+inline hostlib::Value ToValue(const VARIANT& variant, ObjectGate& gate) {
+  return hostlib::com::FromVariant(variant, gate, {});
 }
-inline hostlib::Value ToValue(const VARIANT& variant, const ObjectPassage& passage) {
-  return FromVariant(variant, passage);
-}
-inline hostlib::Value ToValue(VARIANT* variant, const ObjectPassage& passage) {
-  return variant == nullptr ? hostlib::Value() : FromVariant(*variant, passage);
+inline hostlib::Value ToValue(VARIANT* variant, ObjectGate& gate) {
+  return variant == nullptr ? hostlib::Value() : hostlib::com::FromVariant(*variant, gate, {});
 }
 
 // What the library gives, where the method is to leave it.
-inline void Give(const hostlib::Value&, NoResult, const ObjectPassage&) {}
-inline void Give(const hostlib::Value& value, BSTR* result, const ObjectPassage&) {
-  *result = NewText(value.Text());
+inline void Give(const hostlib::Value&, NoResult, ObjectGate&) {}
+inline void Give(const hostlib::Value& value, BSTR* result, ObjectGate&) {
+  *result = hostlib::com::Bstr(value.Text()).Release();
+  if (*result == nullptr) throw std::bad_alloc();
 }
 /// A 16-bit number, or a boolean, which is one too.
-inline void Give(const hostlib::Value& value, short* result, const ObjectPassage&) {
+inline void Give(const hostlib::Value& value, short* result, ObjectGate&) {
   const bool* flag = value.If<bool>();
   *result = flag == nullptr ? value.Integer() : *flag ? VARIANT_TRUE : VARIANT_FALSE;
 }
-inline void Give(const hostlib::Value& value, long* result, const ObjectPassage&) {
-  *result = value.Long();
+inline void Give(const hostlib::Value& value, long* result, ObjectGate&) { *result = value.Long(); }
+inline void Give(const hostlib::Value& value, IDispatch** result, ObjectGate& gate) {
+  *result = value.IsEmpty() ? nullptr : gate.Outward(value.AsObject()).Detach();
 }
-inline void Give(const hostlib::Value& value, IDispatch** result, const ObjectPassage& passage) {
-  *result = value.IsEmpty() ? nullptr : passage.out(value.AsObject());
-}
-inline void Give(const hostlib::Value& value, VARIANT* result, const ObjectPassage& passage) {
-  ToVariant(value, passage, *result);
+inline void Give(const hostlib::Value& value, VARIANT* result, ObjectGate& gate) {
+  hostlib::com::Variant variant = hostlib::com::ToVariant(value, gate);
+  // The receiver owns what is in it from here on.
+  *result = std::exchange(variant.get(), VARIANT{});
 }
 
 inline bool IsWanted(NoResult) { return true; }
@@ -99,8 +104,8 @@ class Dual : public Base, public Part {
     const ComPtr<IUnknown> keep(this);
     const Exporter::Serving serving(owner_.exporter(), owner_.client());
     return Guarded([&] {
-      const ObjectPassage& passage = owner_.exporter().passage();
-      Give(target_->Call(slot, {ToValue(given, passage)...}), result, passage);
+      ObjectGate& gate = owner_.exporter();
+      Give(target_->Call(slot, {ToValue(given, gate)...}), result, gate);
     });
   }
 

@@ -23,13 +23,9 @@ class ForeignObject : public hostlib::Object {
 
 }  // namespace
 
-Exporter::Exporter(const TypeLibrary& types, ProcessLife& life)
-    : types_(types),
-      life_(life),
-      passage_{[this](const hostlib::ObjectPtr& object) { return Export(object).Detach(); },
-               Import} {}
+Exporter::Exporter(const TypeLibrary& types, ProcessLife& life) : types_(types), life_(life) {}
 
-ComPtr<IDispatch> Exporter::Export(const hostlib::ObjectPtr& object) {
+ComPtr<IDispatch> Exporter::Outward(const hostlib::ObjectPtr& object) {
   ComPtr<IDispatch> result;
   if (object == nullptr) return result;
   const LibraryClass* kind = FindClass(object->ClassName());
@@ -44,7 +40,7 @@ ComPtr<IDispatch> Exporter::Export(const hostlib::ObjectPtr& object) {
   return result;
 }
 
-hostlib::ObjectPtr Exporter::Import(IUnknown* object) {
+hostlib::ObjectPtr Exporter::Inward(ComPtr<IDispatch> object, std::wstring_view) {
   if (object == nullptr) return nullptr;
   ComPtr<IExported> exported;
   if (SUCCEEDED(object->QueryInterface(kExportedId, &exported))) return exported->Target();

@@ -4,18 +4,17 @@
 #include <set>
 #include <utility>
 
-#include "hostlib/Object.h"
+#include "hostlib/com/VariantValues.h"
 #include "practice/terminal/Client.h"
 #include "practice/terminal/ProcessLife.h"
 #include "practice/terminal/TypeLibrary.h"
-#include "practice/terminal/Variants.h"
 
 namespace practice::terminal {
 
 class ComObject;
 
 /// Hands the library's objects out as COM objects, knows them again, and counts them.
-class Exporter {
+class Exporter : public hostlib::com::ObjectGate {
  public:
   Exporter(const TypeLibrary& types, ProcessLife& life);
   Exporter(const Exporter&) = delete;
@@ -23,11 +22,10 @@ class Exporter {
 
   /// A new COM object for it, with one reference; null for a null object. Throws LibraryError when
   /// the type library does not describe the object's class.
-  ComPtr<IDispatch> Export(const hostlib::ObjectPtr& object);
+  ComPtr<IDispatch> Outward(const hostlib::ObjectPtr& object) override;
   /// An object that this process handed out, or one that answers no call; null for null.
-  static hostlib::ObjectPtr Import(IUnknown* object);
+  hostlib::ObjectPtr Inward(ComPtr<IDispatch> object, std::wstring_view className) override;
 
-  const ObjectPassage& passage() const { return passage_; }
   const TypeLibrary& types() const { return types_; }
   ProcessLife& life() { return life_; }
 
@@ -65,7 +63,6 @@ class Exporter {
 
   const TypeLibrary& types_;
   ProcessLife& life_;
-  ObjectPassage passage_;
   ClientPtr client_;
   std::set<ComObject*> live_;
 };
