@@ -174,4 +174,22 @@ TEST_F(TerminalWindow, ClosingItInTheMiddleOfACallEndsTheCall) {
   answer.get();
 }
 
+TEST_F(TerminalWindow, AnErrorBoxOfAScriptIsShownAndWaitedFor) {
+  auto shown = std::async(std::launch::async, [] {
+    CoInitializeEx(nullptr, COINIT_MULTITHREADED);
+    const auto reporter = client::Make(L"ScriptErrorReporter");
+    std::vector<Variant> arguments = One(client::Number(7));
+    arguments.push_back(client::Text(L"  A Title "));
+    arguments.push_back(client::Text(L"One\rTwo"));
+    arguments.push_back(client::Number(16));
+    Call(*reporter.Get(), L"ShowError", std::move(arguments));
+    CoUninitialize();
+  });
+  const HWND box = driver::WindowNamed(L"  A Title ");
+  EXPECT_EQ(driver::BoxText(box), L"One\nTwo");
+  EXPECT_NE(shown.wait_for(std::chrono::seconds(0)), std::future_status::ready);
+  PostMessageW(driver::OkButton(box), BM_CLICK, 0, 0);
+  shown.get();
+}
+
 }  // namespace
