@@ -4,9 +4,9 @@
 #include <fstream>
 
 #include "app/Program.h"
-#include "common/Text.h"
 #include "hostlib/Requests.h"
 #include "practice/rehearsal/ScriptedAgent.h"
+#include "practice/terminal/TerminalWindow.h"
 #include "tests/windows/driver/Driver.h"
 
 namespace com_run {
@@ -20,7 +20,7 @@ RunningTerminal::RunningTerminal() {
 }
 
 RunningTerminal::~RunningTerminal() {
-  terminal_ = nullptr;
+  Close();
   // One that only served objects ends by itself, and must, before the next test starts its own.
   EXPECT_TRUE(driver::Holds([] { return terminal::Running() == 0; }));
   std::error_code ignored;
@@ -29,8 +29,20 @@ RunningTerminal::~RunningTerminal() {
 
 void RunningTerminal::Start() {
   terminal_ = std::make_unique<terminal::Process>(terminal::Program(), L"");
-  ASSERT_TRUE(
-      driver::Holds([] { return FindWindowW(L"VantelPracticeTerminal", nullptr) != nullptr; }));
+  // The system may take a while to forget a terminal that was killed.
+  ASSERT_TRUE(driver::Holds([] {
+    client::ComPtr<IDispatch> session;
+    return FindWindowW(practice::terminal::kTerminalClass, nullptr) != nullptr &&
+           SUCCEEDED(client::Make(L"TerminalSession", session));
+  }));
+}
+
+void RunningTerminal::Close() {
+  if (terminal_ == nullptr) return;
+  const HWND window = FindWindowW(practice::terminal::kTerminalClass, nullptr);
+  if (window != nullptr) PostMessageW(window, WM_CLOSE, 0, 0);
+  EXPECT_TRUE(driver::Holds([this] { return !terminal_->IsRunning(); }));
+  terminal_ = nullptr;
 }
 
 void RunningTerminal::Load(const std::wstring& booking) {

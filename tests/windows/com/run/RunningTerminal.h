@@ -4,15 +4,44 @@
 
 #include <memory>
 
+#include "common/Text.h"
 #include "hostlib/Recorder.h"
 #include "hostlib/com/Apartment.h"
 #include "hostlib/com/ComLibrary.h"
 #include "platform/FixedPlatform.h"
+#include "platform/win32/WindowsPlatform.h"
 #include "practice/rehearsal/Rehearsal.h"
 #include "tests/windows/terminal/Client.h"
 #include "tests/windows/terminal/Terminal.h"
 
 namespace com_run {
+
+/// Runs the test's body; a failure of the link fails the test with its words.
+template <typename Body>
+void Telling(Body body) {
+  try {
+    body();
+  } catch (const hostlib::LibraryError& error) {
+    ADD_FAILURE() << common::ToUtf8(error.object() + L"." + error.operation() + L": " +
+                                    error.description());
+  } catch (const client::Failure& failure) {
+    ADD_FAILURE() << std::hex << failure.result << " " << common::ToUtf8(failure.text);
+  }
+}
+
+/// A fixed machine that writes dates as this one: the terminal does.
+class FixedDay : public platform::FixedPlatform {
+ public:
+  std::wstring ShortDateText(std::chrono::year_month_day date) const override {
+    return machine_.ShortDateText(date);
+  }
+  std::optional<std::chrono::year_month_day> ReadShortDate(std::wstring_view text) const override {
+    return machine_.ReadShortDate(text);
+  }
+
+ private:
+  platform::WindowsPlatform machine_;
+};
 
 /// A running practice terminal with its window, and the program's link to it.
 class RunningTerminal : public testing::Test {
@@ -21,6 +50,8 @@ class RunningTerminal : public testing::Test {
   ~RunningTerminal() override;
 
   void Start();
+  /// As its close box does.
+  void Close();
   void Load(const std::wstring& booking);
   std::wstring PnrText();
 
@@ -31,7 +62,7 @@ class RunningTerminal : public testing::Test {
   hostlib::com::InstalledObjects installed_;
   hostlib::com::ComLibrary library_{installed_};
   std::unique_ptr<terminal::Process> terminal_;
-  platform::FixedPlatform platform_;
+  FixedDay platform_;
 
  private:
   void WriteIni(const std::wstring& ini);
