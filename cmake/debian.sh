@@ -14,7 +14,7 @@ install_missing() {
       native) wanted+=(g++ googletest) ;;
       windows)
         wanted+=(g++-mingw-w64-x86-64-posix mingw-w64-tools libwine-dev googletest wine64
-          fonts-wine xvfb imagemagick util-linux)
+          fonts-wine xvfb imagemagick util-linux locales)
         ;;
       checks) wanted+=(clang-format git) ;;
     esac

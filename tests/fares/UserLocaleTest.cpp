@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+
+#include "common/Text.h"
 #include "platform/win32/WindowsPlatform.h"
 #include "tests/fares/FaresBench.h"
 
@@ -11,8 +14,10 @@ namespace {
 
 using Lines = std::vector<std::wstring>;
 
-TEST(UserLocale, ASeparatorIsKnown) {
-  EXPECT_NE(GetDecimalSymbol(platform::WindowsPlatform()), L"");
+TEST(UserLocale, TheSeparatorIsTheOneOfTheLocaleThatTheTestsRunUnder) {
+  const char* separator = std::getenv("PTA_SEPARATOR");
+  ASSERT_NE(separator, nullptr) << "to be run by ctest, which tells the locale's separator";
+  EXPECT_EQ(GetDecimalSymbol(platform::WindowsPlatform()), common::FromUtf8(separator));
 }
 
 TEST(UserLocale, TheHostsTextsDoNotDependOnIt) {
