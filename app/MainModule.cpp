@@ -15,6 +15,8 @@ MainModule::MainModule(hostlib::Library& library, ui::Desktop& desktop,
       common_(library),
       errors_(common_.reporter, desktop, *this, common_.stop),
       connection_(library, errors_),
+      progressFormObject_(MakeProgressFormObject(frmWorking_, frmWorking_.lblWorking)),
+      applicationObject_(MakeApplicationObject(platform)),
       frmPTA_(desktop, errors_, *this) {
   frmPTA_.SetActions(*this);
 }
@@ -42,9 +44,7 @@ void MainModule::Main() {
 
 void MainModule::ShowProgress() {
   if (!connection_.Make([this](hostlib::Library&) { common_.global.Create(); })) EndScript();
-  const bool endAtOnce =
-      common_.global.Attach(MakeProgressFormObject(frmWorking_, frmWorking_.lblWorking),
-                            MakeApplicationObject(platform_));
+  const bool endAtOnce = common_.global.Attach(progressFormObject_, applicationObject_);
   if (endAtOnce) EndAtOnce();
   desktop_.Show(frmWorking_);
   frmWorking_.SetCaption(common::kTitle);

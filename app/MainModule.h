@@ -54,6 +54,9 @@ class MainModule : public common::RunEnd, public ui::PTADialogActions {
   errors::ErrorHandler errors_;
   VantelConnectDef connection_;
   ui::frmWorking frmWorking_;
+  // The library may ask them as long as the run lasts.
+  hostlib::ObjectPtr progressFormObject_;
+  hostlib::ObjectPtr applicationObject_;
   ui::frmPTA frmPTA_;
   std::unique_ptr<Rooms> rooms_;
 };

@@ -2,6 +2,7 @@
 #
 #   wine_use PREFIX [managed]   sets the environment for a prefix, and makes it when it is not there
 #   wine_own_display PREFIX     sets DISPLAY to a virtual display that belongs to the prefix
+#   wine_end                    ends everything that runs in the prefix
 #   wine_run PROGRAM ...        runs a program in it, and waits for it alone
 
 wine_loader=$(command -v wine64 || echo /usr/lib/wine/wine64)
@@ -90,4 +91,9 @@ wine_run() {
   tr -d '\r' <"$output"
   rm -f "$output"
   return "$status"
+}
+
+wine_end() {
+  "$wine_server" -k >/dev/null 2>&1 </dev/null || true
+  "$wine_server" -w >/dev/null 2>&1 </dev/null || true
 }

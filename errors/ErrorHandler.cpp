@@ -16,7 +16,12 @@ bool ErrorHandler::Run(const Procedure& procedure, const std::function<void()>& 
     body();
     return true;
   } catch (const hostlib::LibraryError& error) {
-    ShowFailure(procedure, error.description(), true);
+    if (error.number() == hostlib::kTerminalIsElevated) {
+      // Only these words tell the agent what to do.
+      ShowOwnText(procedure, error.description(), procedure.style);
+    } else {
+      ShowFailure(procedure, error.description(), true);
+    }
   } catch (const common::RunTimeError& error) {
     ShowFailure(procedure, error.description(), false);
   } catch (const std::exception& error) {

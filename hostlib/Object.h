@@ -42,6 +42,10 @@ class LibraryError : public common::RunTimeError {
   std::wstring operation_;
 };
 
+/// The number of the error for a terminal that runs with rights that this program does not have;
+/// the system says the same where it starts programs. The error's text is written for the agent.
+inline constexpr auto kTerminalIsElevated = static_cast<std::int32_t>(0x800702E4);
+
 /// The default member of a list object: called as a slot, it gives the list's array.
 inline constexpr int kDefaultMember = 0;
 

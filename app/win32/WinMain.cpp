@@ -1,21 +1,26 @@
 #include <windows.h>
 
 #include "app/Program.h"
-#include "app/win32/PracticeComposition.h"
 #include "common/ConstDefintions.h"
+#include "hostlib/com/Apartment.h"
+#include "hostlib/com/ComLibrary.h"
+#include "hostlib/com/LibraryCheck.h"
 #include "platform/win32/WindowsPlatform.h"
 #include "ui/win32/WindowsDesktop.h"
 
 namespace {
 
-int RunOn(HINSTANCE instance, ui::Desktop& desktop) {
+/// The program's run against the script library that is installed on this machine.
+int RunOnInstalledLibrary(ui::Desktop& desktop) {
   const platform::WindowsPlatform machine;
   try {
-    app::PracticeComposition practice(instance, machine, desktop);
-    return app::RunProgram(practice.library(), desktop, machine);
-  } catch (const practice::BookingError& error) {
-    desktop.ShowBox(L"The practice booking can not be used.\r\r" + error.description(),
-                    common::kCritical, common::kTitle);
+    const hostlib::com::Apartment apartment(hostlib::com::AskToTryAgain);
+    hostlib::com::InstalledObjects installed;
+    hostlib::com::ComLibrary library(installed);
+    hostlib::com::CheckUsedOperations(library);
+    return app::RunProgram(library, desktop, machine);
+  } catch (const hostlib::LibraryError& error) {
+    desktop.ShowBox(error.description(), common::kCritical, common::kTitle);
     return 1;
   }
 }
@@ -24,5 +29,5 @@ int RunOn(HINSTANCE instance, ui::Desktop& desktop) {
 
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, LPWSTR, int) {
   ui::WindowsDesktop desktop(instance, L"PTA_QX");
-  return RunOn(instance, desktop);
+  return RunOnInstalledLibrary(desktop);
 }

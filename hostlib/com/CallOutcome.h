@@ -6,9 +6,6 @@
 
 namespace hostlib::com {
 
-/// The number of the LibraryError for a terminal that runs with rights that this program does not
-/// have; the system says the same where it starts programs.
-inline constexpr auto kTerminalIsElevated = static_cast<std::int32_t>(0x800702E4);
 /// The number of the LibraryError that an unusable installed library gives.
 inline constexpr auto kLibraryDoesNotFit = static_cast<std::int32_t>(0x8002801D);
 

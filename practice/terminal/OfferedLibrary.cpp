@@ -1,6 +1,7 @@
 #include "practice/terminal/OfferedLibrary.h"
 
 #include "practice/library/PracticeObject.h"
+#include "practice/terminal/Waiting.h"
 
 namespace practice::terminal {
 namespace {
@@ -33,6 +34,11 @@ class DeskObject : public PracticeObject {
     });
     OnSlot(13, [&desk](const Arguments&) {
       desk.BehaveWell();
+      return Value();
+    });
+    OnSlot(14, [&desk](const Arguments& a) {
+      const std::chrono::milliseconds time(a[0].Long());
+      desk.SlowDown([time] { WaitAlive(time); });
       return Value();
     });
   }

@@ -34,6 +34,17 @@ TEST(ErrorHandler, TheOwnTextIsShownWithTheBaseAddedToTheNumber) {
   EXPECT_FALSE(bench.stop.isSet);
 }
 
+TEST(ErrorHandler, ATerminalOutOfReachIsToldInTheWordsOfTheLink) {
+  RoomBench bench;
+  EXPECT_FALSE(bench.errors.Run(kOwn, [] {
+    throw hostlib::LibraryError(hostlib::kTerminalIsElevated, L"hostlib", L"Start both alike.");
+  }));
+  EXPECT_EQ(
+      bench.TakeCalls(),
+      Lines{L"ScriptErrorReporter.1.18 ShowError(-2147221453, \"  PTA Script \", \"Start both "
+            L"alike.\", 16)"});
+}
+
 TEST(ErrorHandler, AReadingProcedureShowsItsOwnTextWhenTheLibraryHasNoError) {
   RoomBench bench;
   EXPECT_FALSE(bench.errors.Run(kReading, RaiseOwn));

@@ -154,7 +154,7 @@ TEST_F(Failures, ATerminalWithMoreRightsIsSaidToBeOutOfReach) {
   source_.failures[L"Vantel.TerminalSession"] = MK_E_UNAVAILABLE;
   source_.isOutOfReach = true;
   const auto error = FailureOf([&] { Made(L"TerminalSession"); });
-  EXPECT_EQ(error.number(), hostlib::com::kTerminalIsElevated);
+  EXPECT_EQ(error.number(), hostlib::kTerminalIsElevated);
   EXPECT_EQ(error.description(),
             L"The Vantel session runs as administrator and this program does not.\r\r"
             L"Start both of them in the same way.");

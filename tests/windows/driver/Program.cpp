@@ -23,6 +23,20 @@ BOOL CALLBACK Gather(HWND window, LPARAM gathering) {
   return TRUE;
 }
 
+std::vector<HWND> WindowsOf(DWORD process) {
+  Gathering all{process, {}};
+  EnumWindows(&Gather, reinterpret_cast<LPARAM>(&all));
+  return all.windows;
+}
+
+/// Null when none has it.
+HWND WithControl(const std::vector<HWND>& windows, int controlId) {
+  const auto found = std::find_if(windows.begin(), windows.end(), [&](HWND window) {
+    return GetDlgItem(window, controlId) != nullptr;
+  });
+  return found == windows.end() ? nullptr : *found;
+}
+
 }  // namespace
 
 Program::Program(const std::wstring& path) {
@@ -53,32 +67,32 @@ DWORD Program::ExitCode() const {
   return code;
 }
 
-std::vector<HWND> Program::Windows() const {
-  Gathering all{process_.dwProcessId, {}};
-  EnumWindows(&Gather, reinterpret_cast<LPARAM>(&all));
-  return all.windows;
-}
+std::vector<HWND> Program::Windows() const { return WindowsOf(process_.dwProcessId); }
 
-HWND Program::WindowWith(int controlId) const {
-  const std::vector<HWND> windows = Windows();
-  const auto found = std::find_if(windows.begin(), windows.end(), [&](HWND window) {
-    return GetDlgItem(window, controlId) != nullptr;
-  });
-  return found == windows.end() ? nullptr : *found;
-}
+HWND Program::WindowWith(int controlId) const { return WithControl(Windows(), controlId); }
 
-HWND Program::Box() const { return WindowWith(kBoxText); }
+HWND Program::Box() const {
+  const HWND own = WindowWith(kBoxText);
+  return own != nullptr || reporting_ == 0 ? own : WithControl(WindowsOf(reporting_), kBoxText);
+}
 
 HWND Program::WaitForWindowWith(int controlId) const {
+  return WaitFor(L"control " + std::to_wstring(controlId),
+                 [this, controlId] { return WindowWith(controlId); });
+}
+
+HWND Program::WaitForBox() const {
+  return WaitFor(L"a message", [this] { return Box(); });
+}
+
+HWND Program::WaitFor(const std::wstring& content, const std::function<HWND()>& find) const {
   HWND window = nullptr;
-  WaitUntil(L"the program shows a window with control " + std::to_wstring(controlId), [&] {
-    window = WindowWith(controlId);
+  WaitUntil(L"the program shows a window with " + content, [&] {
+    window = find();
     return window != nullptr || !IsRunning();
   });
   if (window == nullptr) throw DriverError(L"The program has ended");
   return window;
 }
-
-HWND Program::WaitForBox() const { return WaitForWindowWith(kBoxText); }
 
 }  // namespace driver

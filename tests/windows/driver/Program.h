@@ -24,6 +24,8 @@ class Program {
   std::vector<HWND> Windows() const;
   /// The one of them with a control of this number; null when there is none now.
   HWND WindowWith(int controlId) const;
+  /// The boxes of this process are taken for its own: the library shows the reports.
+  void TakeBoxesOf(DWORD process) { reporting_ = process; }
   /// Its message box; null when there is none now.
   HWND Box() const;
 
@@ -31,7 +33,10 @@ class Program {
   HWND WaitForBox() const;
 
  private:
+  HWND WaitFor(const std::wstring& content, const std::function<HWND()>& find) const;
+
   PROCESS_INFORMATION process_ = {};
+  DWORD reporting_ = 0;
 };
 
 }  // namespace driver

@@ -1,8 +1,11 @@
 #include "tests/windows/program/Stage.h"
 
+#include <gtest/gtest.h>
+
 #include <cstdio>
 
 #include "tests/windows/driver/Driver.h"
+#include "tests/windows/terminal/Client.h"
 
 namespace driver {
 
@@ -43,30 +46,27 @@ std::wstring ProjectFile(const std::wstring& path) {
   return ReadText(WindowsPath(PTA_SOURCE_FOLDER) + L"\\" + path);
 }
 
-Stage::Stage() {
+Stage::Stage() : terminal_(std::make_unique<terminal::PracticeTerminal>()) {
   const std::wstring product = WindowsPath(PTA_PROGRAM);
   folder_ = product.substr(0, product.find_last_of(L'\\')) + L"\\stage";
   CreateDirectoryW(folder_.c_str(), nullptr);
   if (!CopyFileW(product.c_str(), (folder_ + L"\\PTA_QX.exe").c_str(), FALSE)) {
     throw DriverError(L"Cannot copy " + product);
   }
-  DeleteFileW((folder_ + L"\\practice.pnr").c_str());
-  DeleteFileW((folder_ + L"\\practice.log").c_str());
   WriteText(folder_ + L"\\PTA_QX.ini", ProjectFile(L"practice\\pnrs\\ordinary.ini"));
   RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\VantelPractice\\PTAStartup");
 }
 
-void Stage::SetBooking(const std::wstring& booking) {
-  WriteText(folder_ + L"\\practice.pnr", booking);
-}
-
-void Stage::SetPace(int milliseconds) {
-  SetBooking(ProjectFile(L"practice\\pnrs\\ordinary.pnr") + L"# PACE " +
-             std::to_wstring(milliseconds) + L"\n");
+Stage::~Stage() {
+  program_ = nullptr;
+  if (terminal_ == nullptr || !terminal_->IsRunning()) return;
+  EXPECT_TRUE(Holds([] { return client::LiveObjects() == 0; }, std::chrono::seconds(5)))
+      << "the program left objects in the terminal";
 }
 
 Program& Stage::Start() {
   program_ = std::make_unique<Program>(folder_ + L"\\PTA_QX.exe");
+  if (terminal_ != nullptr) program_->TakeBoxesOf(terminal_->processId());
   return *program_;
 }
 
@@ -76,26 +76,23 @@ void Stage::Work(const std::wstring& lines) {
 
 void Stage::WorkLikeTheOrdinaryAgent() { Work(ProjectFile(L"practice\\pnrs\\ordinary.agent")); }
 
+DWORD Stage::ExitCode() const {
+  EXPECT_TRUE(Holds([this] { return !program_->IsRunning(); }, std::chrono::seconds(5)))
+      << "the program does not end";
+  return program_->ExitCode();
+}
+
 std::vector<std::wstring> Stage::Entries() const {
-  const std::wstring log = ReadText(folder_ + L"\\practice.log");
-  std::vector<std::wstring> entries;
-  for (std::size_t at = log.find(L"\n> "); at != log.npos; at = log.find(L"\n> ", at + 1)) {
-    entries.push_back(log.substr(at + 3, log.find(L'\n', at + 1) - at - 3));
-  }
+  std::vector<std::wstring> entries = terminal_->Entries();
   if (!entries.empty()) entries.erase(entries.begin());
   return entries;
 }
 
-std::wstring Stage::PnrBefore() const { return Note(L"PNR before\n"); }
-std::wstring Stage::PnrAfter() const { return Note(L"PNR after\n"); }
 std::wstring Stage::Ini() const { return ReadText(folder_ + L"\\PTA_QX.ini"); }
 
-std::wstring Stage::Note(std::wstring_view heading) const {
-  const std::wstring log = ReadText(folder_ + L"\\practice.log");
-  const std::size_t at = log.find(heading);
-  if (at == log.npos) return {};
-  const std::size_t start = at + heading.size();
-  return log.substr(start, log.find(L"\n\n", start) - start);
+std::wstring Stage::WithLineFeeds(std::wstring text) {
+  std::erase(text, L'\r');
+  return text;
 }
 
 }  // namespace driver

@@ -5,33 +5,40 @@
 #include <vector>
 
 #include "tests/windows/driver/WindowAgent.h"
+#include "tests/windows/terminal/PracticeTerminal.h"
 
 namespace driver {
 
-/// The product in a folder of its own, with the ordinary booking and its settings, on a day on
-/// which it has not run yet.
+/// The product in a folder of its own with its settings, on a day on which it has not run yet, and
+/// a practice terminal with the ordinary booking.
 class Stage {
  public:
   Stage();
+  /// Nothing of the program may be left in a terminal that runs.
+  ~Stage();
 
-  void SetBooking(const std::wstring& booking);
-  /// The ordinary booking, with a host that takes this many milliseconds an entry.
-  void SetPace(int milliseconds);
+  void SetBooking(const std::wstring& booking) { terminal().Load(booking); }
+  /// The host takes this many milliseconds an entry.
+  void SetPace(int milliseconds) { terminal().SlowDown(milliseconds); }
   Program& Start();
   Program& program() { return *program_; }
-  /// Starts the program and has a written agent do its lines, or the agent of this name.
+  terminal::PracticeTerminal& terminal() { return *terminal_; }
+  void CloseTerminal() { terminal_ = nullptr; }
+  /// Starts the program and has a written agent do its lines.
   void Work(const std::wstring& lines);
   void WorkLikeTheOrdinaryAgent();
+  /// The exit code of the program, which ends within the time that an agent is willing to wait.
+  DWORD ExitCode() const;
 
   /// What the host was asked, in order; without the first, that for the office.
   std::vector<std::wstring> Entries() const;
-  std::wstring PnrBefore() const;
-  std::wstring PnrAfter() const;
+  std::wstring PnrAfter() const { return WithLineFeeds(terminal_->PnrText()); }
   std::wstring Ini() const;
 
  private:
-  std::wstring Note(std::wstring_view heading) const;
+  static std::wstring WithLineFeeds(std::wstring text);
 
+  std::unique_ptr<terminal::PracticeTerminal> terminal_;
   std::wstring folder_;
   std::unique_ptr<Program> program_;
 };

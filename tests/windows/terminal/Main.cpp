@@ -1,20 +1,10 @@
 #include <gmock/gmock.h>
 #include <objbase.h>
-#include <windows.h>
 
 #include "tests/windows/terminal/Client.h"
-#include "tests/windows/terminal/Terminal.h"
+#include "tests/windows/terminal/PracticeTerminal.h"
 
 namespace {
-
-/// The terminal's classes are in the registry while the tests run.
-class Registered : public testing::Environment {
- public:
-  void SetUp() override {
-    ASSERT_EQ(terminal::Process(terminal::Program(), L"/regserver").Wait(), 0U);
-  }
-  void TearDown() override { terminal::Process(terminal::Program(), L"/unregserver").Wait(); }
-};
 
 /// A client that makes objects, says so, and waits to be killed.
 int HoldObjects() {
@@ -27,14 +17,18 @@ int HoldObjects() {
   return 0;
 }
 
+int RunTests(int count, char** arguments) {
+  testing::InitGoogleMock(&count, arguments);
+  const terminal::Registered registered;
+  return RUN_ALL_TESTS();
+}
+
 }  // namespace
 
 int main(int count, char** arguments) {
   CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
-  if (count > 1 && std::string_view(arguments[1]) == "--hold-objects") return HoldObjects();
-  testing::InitGoogleMock(&count, arguments);
-  testing::AddGlobalTestEnvironment(new Registered);
-  const int result = RUN_ALL_TESTS();
+  const bool isHolder = count > 1 && std::string_view(arguments[1]) == "--hold-objects";
+  const int result = isHolder ? HoldObjects() : RunTests(count, arguments);
   CoUninitialize();
   return result;
 }

@@ -6,7 +6,7 @@
 #include "practice/terminal/TerminalWindow.h"
 #include "tests/windows/driver/Driver.h"
 #include "tests/windows/terminal/Client.h"
-#include "tests/windows/terminal/Terminal.h"
+#include "tests/windows/terminal/PracticeTerminal.h"
 
 namespace {
 
@@ -25,20 +25,6 @@ std::vector<Variant> One(Variant argument) {
 
 class TerminalWindow : public testing::Test {
  protected:
-  TerminalWindow() : process_(terminal::Program(), L"ordinary") {
-    driver::WaitUntil(L"the terminal is shown", [this] {
-      window_ = FindWindowW(practice::terminal::kTerminalClass, nullptr);
-      return window_ != nullptr && IsWindowVisible(window_);
-    });
-  }
-
-  // Not killed: the system may go on offering the classes of a process that did not take them back.
-  ~TerminalWindow() override {
-    if (!process_.IsRunning()) return;
-    PostMessageW(window_, WM_CLOSE, 0, 0);
-    process_.Wait();
-  }
-
   HWND Entry() const { return driver::Item(window_, practice::terminal::kEntryId); }
   std::wstring Transcript() const {
     return driver::TextOf(driver::Item(window_, practice::terminal::kTranscriptId));
@@ -64,8 +50,8 @@ class TerminalWindow : public testing::Test {
     return client::TextIn(Call(*session.Get(), L"SendCommand", One(client::Text(entry))));
   }
 
-  terminal::Process process_;
-  HWND window_ = nullptr;
+  terminal::PracticeTerminal terminal_;
+  HWND window_ = terminal_.window();
 };
 
 TEST_F(TerminalWindow, SaysThatThisIsPractice) {
@@ -153,8 +139,7 @@ TEST_F(TerminalWindow, StaysResponsiveWhileASlowHostAnswersAScript) {
 
 TEST_F(TerminalWindow, ClosingItEndsTheSessionsOfScripts) {
   const auto session = client::Make(L"TerminalSession");
-  PostMessageW(window_, WM_CLOSE, 0, 0);
-  process_.Wait();
+  terminal_.Close();
   EXPECT_THROW(Call(*session.Get(), L"LoadPNR"), Failure);
 }
 
@@ -169,9 +154,17 @@ TEST_F(TerminalWindow, ClosingItInTheMiddleOfACallEndsTheCall) {
     CoUninitialize();
   });
   EXPECT_TRUE(Says(L"Objects in use: 1"));
-  PostMessageW(window_, WM_CLOSE, 0, 0);
-  process_.Wait();
+  terminal_.Close();
   answer.get();
+}
+
+TEST_F(TerminalWindow, SaysWhatIsWrongWithABooking) {
+  try {
+    terminal_.Load(L"NM SMITH/JOHN MR\nNO SUCH ENTRY\n");
+    FAIL() << "it was loaded";
+  } catch (const Failure& failure) {
+    EXPECT_THAT(failure.text, testing::StartsWith(L"Line 2: "));
+  }
 }
 
 TEST_F(TerminalWindow, AnErrorBoxOfAScriptIsShownAndWaitedFor) {

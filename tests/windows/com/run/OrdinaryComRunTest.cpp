@@ -44,7 +44,7 @@ TEST_F(ComRun, TheOrdinaryBookingGoesOverTheLinkAsItGoesWithoutIt) {
                 common::ToUtf8(hasDate ? NameIn(here.calls[i]) : here.calls[i]));
     }
     EXPECT_EQ(there.seen, here.seen);
-    EXPECT_EQ(common::ToUtf8(PnrText()), common::ToUtf8(here.pnrAfter));
+    EXPECT_EQ(common::ToUtf8(there.pnrAfter), common::ToUtf8(here.pnrAfter));
   });
 }
 

@@ -6,7 +6,6 @@
 #include "app/Program.h"
 #include "hostlib/Requests.h"
 #include "practice/rehearsal/ScriptedAgent.h"
-#include "practice/terminal/TerminalWindow.h"
 #include "tests/windows/driver/Driver.h"
 
 namespace com_run {
@@ -20,41 +19,11 @@ RunningTerminal::RunningTerminal() {
 }
 
 RunningTerminal::~RunningTerminal() {
-  Close();
+  terminal_ = nullptr;
   // One that only served objects ends by itself, and must, before the next test starts its own.
   EXPECT_TRUE(driver::Holds([] { return terminal::Running() == 0; }));
   std::error_code ignored;
   std::filesystem::remove_all(platform_.folder, ignored);
-}
-
-void RunningTerminal::Start() {
-  terminal_ = std::make_unique<terminal::Process>(terminal::Program(), L"");
-  // The system may take a while to forget a terminal that was killed.
-  ASSERT_TRUE(driver::Holds([] {
-    client::ComPtr<IDispatch> session;
-    return FindWindowW(practice::terminal::kTerminalClass, nullptr) != nullptr &&
-           SUCCEEDED(client::Make(L"TerminalSession", session));
-  }));
-}
-
-void RunningTerminal::Close() {
-  if (terminal_ == nullptr) return;
-  const HWND window = FindWindowW(practice::terminal::kTerminalClass, nullptr);
-  if (window != nullptr) PostMessageW(window, WM_CLOSE, 0, 0);
-  EXPECT_TRUE(driver::Holds([this] { return !terminal_->IsRunning(); }));
-  terminal_ = nullptr;
-}
-
-void RunningTerminal::Load(const std::wstring& booking) {
-  const auto desk = client::Make(L"PracticeDesk");
-  std::vector<client::Variant> arguments;
-  arguments.push_back(client::Text(booking));
-  client::Call(*desk.Get(), L"LoadBooking", std::move(arguments));
-}
-
-std::wstring RunningTerminal::PnrText() {
-  const auto desk = client::Make(L"PracticeDesk");
-  return client::TextIn(client::Call(*desk.Get(), L"PnrText"));
 }
 
 practice::RehearsalOutcome RunningTerminal::Run(const practice::RehearsalScene& scene,
@@ -64,8 +33,8 @@ practice::RehearsalOutcome RunningTerminal::Run(const practice::RehearsalScene& 
   platform_.today = scene.today;
   platform_.decimal = scene.decimal;
   StoreOffice(scene);
-  Load(scene.booking);
-  outcome.pnrBefore = PnrText();
+  terminal_->Load(scene.booking);
+  outcome.pnrBefore = terminal_->PnrText();
   practice::ScriptedAgent agent(practice::ReadAgentScript(scene.agent));
   hostlib::InterposedLibrary hooked(library_, hook);
   try {
@@ -75,6 +44,7 @@ practice::RehearsalOutcome RunningTerminal::Run(const practice::RehearsalScene& 
     outcome.disagreement = disagreement.words;
   }
   outcome.seen = agent.seen();
+  outcome.pnrAfter = terminal_->PnrText();
   return outcome;
 }
 

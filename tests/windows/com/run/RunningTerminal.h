@@ -12,7 +12,7 @@
 #include "platform/win32/WindowsPlatform.h"
 #include "practice/rehearsal/Rehearsal.h"
 #include "tests/windows/terminal/Client.h"
-#include "tests/windows/terminal/Terminal.h"
+#include "tests/windows/terminal/PracticeTerminal.h"
 
 namespace com_run {
 
@@ -49,11 +49,7 @@ class RunningTerminal : public testing::Test {
   RunningTerminal();
   ~RunningTerminal() override;
 
-  void Start();
-  /// As its close box does.
-  void Close();
-  void Load(const std::wstring& booking);
-  std::wstring PnrText();
+  void Start() { terminal_ = std::make_unique<terminal::PracticeTerminal>(); }
 
   /// The program's whole run over the link, with the scene's booking, INI file and agent.
   practice::RehearsalOutcome Run(const practice::RehearsalScene& scene, hostlib::CallHook& hook);
@@ -61,7 +57,7 @@ class RunningTerminal : public testing::Test {
   hostlib::com::Apartment apartment_{[] { return false; }};
   hostlib::com::InstalledObjects installed_;
   hostlib::com::ComLibrary library_{installed_};
-  std::unique_ptr<terminal::Process> terminal_;
+  std::unique_ptr<terminal::PracticeTerminal> terminal_;
   FixedDay platform_;
 
  private:

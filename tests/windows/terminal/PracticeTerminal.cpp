@@ -1,0 +1,88 @@
+#include "tests/windows/terminal/PracticeTerminal.h"
+
+#include "practice/terminal/TerminalWindow.h"
+#include "tests/windows/driver/Driver.h"
+#include "tests/windows/terminal/Client.h"
+
+namespace terminal {
+namespace {
+
+client::Variant AskDesk(const wchar_t* operation) {
+  return client::Call(*client::Make(L"PracticeDesk").Get(), operation);
+}
+
+void TellDesk(const wchar_t* operation, client::Variant argument) {
+  std::vector<client::Variant> arguments;
+  arguments.push_back(std::move(argument));
+  client::Call(*client::Make(L"PracticeDesk").Get(), operation, std::move(arguments));
+}
+
+bool SessionCanBeMade() {
+  client::ComPtr<IDispatch> session;
+  return SUCCEEDED(client::Make(L"TerminalSession", session));
+}
+
+}  // namespace
+
+PracticeTerminal::PracticeTerminal(const std::wstring& booking)
+    : process_(Program(), booking.empty() ? booking : L"\"" + booking + L"\"") {
+  driver::WaitUntil(L"the terminal is open", [this] {
+    window_ = FindWindowW(practice::terminal::kTerminalClass, nullptr);
+    return window_ != nullptr && IsWindowVisible(window_) && SessionCanBeMade();
+  });
+}
+
+PracticeTerminal::~PracticeTerminal() {
+  try {
+    Close();
+  } catch (const std::exception&) {
+    // The process is ended with its owner.
+  }
+}
+
+void PracticeTerminal::Close() {
+  if (!process_.IsRunning()) return;
+  PostMessageW(window_, WM_CLOSE, 0, 0);
+  process_.Wait();
+}
+
+void PracticeTerminal::Load(const std::wstring& booking) {
+  TellDesk(L"LoadBooking", client::Text(booking));
+}
+
+std::wstring PracticeTerminal::PnrText() const { return client::TextIn(AskDesk(L"PnrText")); }
+
+std::wstring PracticeTerminal::Transcript() const {
+  return client::TextIn(AskDesk(L"TranscriptText"));
+}
+
+std::vector<std::wstring> PracticeTerminal::Entries() const {
+  const std::wstring text = Transcript();
+  std::vector<std::wstring> entries;
+  for (std::size_t at = text.find(L"\n> "); at != text.npos; at = text.find(L"\n> ", at + 1)) {
+    entries.push_back(text.substr(at + 3, text.find(L'\r', at + 1) - at - 3));
+  }
+  return entries;
+}
+
+void PracticeTerminal::SlowDown(int milliseconds) {
+  TellDesk(L"SlowDown", client::Number(milliseconds));
+}
+
+void PracticeTerminal::RefuseNext(const std::wstring& reason) {
+  TellDesk(L"RefuseNext", client::Text(reason));
+}
+
+void PracticeTerminal::DropSession(bool answerOnly) {
+  TellDesk(L"DropSession", client::Flag(answerOnly));
+}
+
+Registered::Registered() {
+  if (Process(Program(), L"/regserver").Wait() != 0) {
+    throw driver::DriverError(L"The terminal can not be registered");
+  }
+}
+
+Registered::~Registered() { Process(Program(), L"/unregserver").Wait(); }
+
+}  // namespace terminal

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "tests/windows/terminal/Terminal.h"
+
+namespace terminal {
+
+/// A practice terminal with its window, in a process of its own, and the trainer's desk in it. The
+/// calling thread has its COM apartment. Throws driver::DriverError or client::Failure.
+class PracticeTerminal {
+ public:
+  /// With this booking, by name or path; "" is the first one. Waits until scripts can use it.
+  explicit PracticeTerminal(const std::wstring& booking = L"");
+  /// Closes it.
+  ~PracticeTerminal();
+  PracticeTerminal(const PracticeTerminal&) = delete;
+  PracticeTerminal& operator=(const PracticeTerminal&) = delete;
+
+  /// As its close box does, and waits for its end. Not killed: the system may go on offering the
+  /// classes of a process that did not take them back.
+  void Close();
+  /// As the task manager does.
+  void Kill() { process_.Kill(); }
+  bool IsRunning() const { return process_.IsRunning(); }
+  HWND window() const { return window_; }
+  DWORD processId() const { return process_.id(); }
+
+  void Load(const std::wstring& booking);
+  std::wstring PnrText() const;
+  /// What the host was asked, in order, since the terminal was opened.
+  std::vector<std::wstring> Entries() const;
+  std::wstring Transcript() const;
+  /// Every entry takes this long.
+  void SlowDown(int milliseconds);
+  void RefuseNext(const std::wstring& reason);
+  void DropSession(bool answerOnly);
+
+ private:
+  Process process_;
+  HWND window_ = nullptr;
+};
+
+/// The classes of the terminal are in the registry in its lifetime.
+class Registered {
+ public:
+  /// Throws driver::DriverError.
+  Registered();
+  ~Registered();
+  Registered(const Registered&) = delete;
+  Registered& operator=(const Registered&) = delete;
+};
+
+}  // namespace terminal
