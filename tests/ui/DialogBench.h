@@ -1,6 +1,8 @@
 #pragma once
 
 #include "tests/support/RoomBench.h"
+#include "tests/ui/FilledDialog.h"
+#include "tests/ui/RecordedActions.h"
 #include "ui/frmPTA.h"
 
 namespace ui {
@@ -24,26 +26,6 @@ class WatchingDesktop : public support::FakeDesktop {
   }
 };
 
-/// What the dialog sets going, written down.
-class RecordedActions : public PTADialogActions {
- public:
-  std::vector<std::wstring> calls;
-  std::function<void()> inLoad;
-  std::function<void()> inSave;
-  std::function<void()> inRun;
-
-  void LoadSettings() override { Note(L"load", inLoad); }
-  void SaveSettings() override { Note(L"save", inSave); }
-  void StartUpdateRun() override { Note(L"run", inRun); }
-  void ReleaseSession() override { Note(L"release session", nullptr); }
-
- private:
-  void Note(const wchar_t* call, const std::function<void()>& then) {
-    calls.push_back(call);
-    if (then) then();
-  }
-};
-
 struct DialogBench {
   DialogBench() { form.SetActions(actions); }
 
@@ -58,18 +40,7 @@ struct DialogBench {
     Fill();
     Display();
   }
-  void Fill() {
-    form.txtMCONumber.SetText(L"4012345678");
-    form.txtAirlinePrefix.SetText(L"117");
-    form.txtCarrier.SetText(L"SK");
-    form.txtFormOfPayment.SetText(L"CASH");
-    form.txtCommission.SetText(L"10");
-    form.txtCityCode.SetText(L"STO");
-    form.txtIATANumber.SetText(L"80246878");
-    form.txtPWCT.SetText(L"SK AT ARN A/P BEFORE DEPARTURE");
-    form.txtPTA.SetText(L"SEK1000/TAX SEK120XT");
-    form.txtQueueingOfficeID.SetText(L"STOSK08AA");
-  }
+  void Fill() { FillDialog(form); }
   void Display() { form.Form_Display(mco, general, tsts, L","); }
   void AddTST(const std::wstring& number, const std::wstring& fv, const std::wstring& fm) {
     tst::TSTInfo tst;

@@ -18,6 +18,12 @@ bool IsCommand(WPARAM character) {
          character == kCtrlZ;
 }
 
+/// Not every edit control makes a message of this key, so the paste handler would not see it.
+bool IsShiftInsert(UINT message, WPARAM key) {
+  return message == WM_KEYDOWN && key == VK_INSERT && GetKeyState(VK_SHIFT) < 0 &&
+         GetKeyState(VK_CONTROL) >= 0;
+}
+
 bool MovesSelection(UINT message) {
   return message == WM_KEYDOWN || message == WM_CHAR || message == WM_LBUTTONDOWN ||
          message == WM_LBUTTONUP || message == WM_LBUTTONDBLCLK || message == WM_PASTE ||
@@ -79,6 +85,8 @@ LRESULT NativeTextBox::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     result = Type(wParam, lParam);
   } else if (message == WM_PASTE && !box_.Locked()) {
     result = Paste();
+  } else if (IsShiftInsert(message, wParam)) {
+    result = SendMessageW(window(), WM_PASTE, 0, 0);
   } else {
     result = NativeControl::Handle(message, wParam, lParam);
   }

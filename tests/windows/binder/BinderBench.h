@@ -3,11 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
-#include <future>
 #include <mutex>
 
 #include "common/ConstDefintions.h"
 #include "tests/windows/driver/Driver.h"
+#include "tests/windows/driver/Person.h"
 #include "ui/win32/WindowsDesktop.h"
 #include "ui/win32/resource.h"
 
@@ -54,39 +54,19 @@ class frmInnermost : public Form {
 /// A real desktop with the test form on it, and a person before it.
 class BinderBench : public testing::Test {
  protected:
-  /// Shows the form and runs the desktop while `person` acts, on a thread of its own, with the
-  /// form's window. What the handlers throw comes out; what went wrong for the person too. The form
-  /// is hidden when the person is done.
-  void Run(const std::function<void(HWND)>& person) {
-    desktop.Show(form);
-    const DWORD mainThread = GetCurrentThreadId();
-    auto acting = std::async(std::launch::async, [&] {
-      const QuitAtEnd quit(mainThread);
-      person(driver::WindowNamed(L"The test form"));
-    });
-    std::exception_ptr thrown;
-    try {
-      desktop.Run();
-    } catch (...) {
-      thrown = std::current_exception();
-    }
-    ended_ = true;
-    acting.wait();
-    MSG quit;
-    while (PeekMessageW(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE)) {
-    }
-    form.Hide();
-    try {
-      acting.get();
-    } catch (const driver::DriverError& error) {
-      ADD_FAILURE() << error.what();
-    }
-    if (thrown) std::rethrow_exception(thrown);
+  /// Shows the form and runs the desktop while `acts` acts on the form's window. What the handlers
+  /// throw comes out. The form is hidden afterwards.
+  void Run(const std::function<void(HWND)>& acts) {
+    const HiddenAtEnd hidden(form);
+    person_.Run(
+        [this] {
+          desktop.Show(form);
+          desktop.Run();
+        },
+        [&] { acts(driver::WindowNamed(L"The test form")); });
   }
   /// For a person whose last act makes the desktop's loop end by itself.
-  void WaitForTheEnd() {
-    driver::WaitUntil(L"the loop has ended", [this] { return ended_.load(); });
-  }
+  void WaitForTheEnd() { person_.WaitForTheEnd(); }
   HWND Item(HWND window, int id) { return driver::Item(window, id); }
 
   void Log(std::wstring line) {
@@ -102,19 +82,18 @@ class BinderBench : public testing::Test {
   frmTest form;
 
  private:
-  /// Ends the desktop's loops when the person is done, or gives up.
-  class QuitAtEnd {
+  class HiddenAtEnd {
    public:
-    explicit QuitAtEnd(DWORD thread) : thread_(thread) {}
-    ~QuitAtEnd() { PostThreadMessageW(thread_, WM_QUIT, 0, 0); }
-    QuitAtEnd(const QuitAtEnd&) = delete;
-    QuitAtEnd& operator=(const QuitAtEnd&) = delete;
+    explicit HiddenAtEnd(Form& form) : form_(form) {}
+    ~HiddenAtEnd() { form_.Hide(); }
+    HiddenAtEnd(const HiddenAtEnd&) = delete;
+    HiddenAtEnd& operator=(const HiddenAtEnd&) = delete;
 
    private:
-    DWORD thread_;
+    Form& form_;
   };
 
-  std::atomic<bool> ended_ = false;
+  driver::Person person_;
   std::mutex mutex_;
   std::vector<std::wstring> log_;
 };

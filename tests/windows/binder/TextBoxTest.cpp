@@ -1,6 +1,5 @@
-#include <cstring>
-
 #include "tests/windows/binder/BinderBench.h"
+#include "tests/windows/driver/Clipboard.h"
 
 namespace ui {
 
@@ -9,19 +8,7 @@ namespace {
 using driver::TextOf;
 using driver::WaitUntil;
 
-class TextBoxWindow : public BinderBench {
- protected:
-  void PutOnClipboard(const std::wstring& text) {
-    const SIZE_T bytes = (text.size() + 1) * sizeof(wchar_t);
-    const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, bytes);
-    std::memcpy(GlobalLock(memory), text.c_str(), bytes);
-    GlobalUnlock(memory);
-    WaitUntil(L"the clipboard is free", [] { return OpenClipboard(nullptr) != FALSE; });
-    EmptyClipboard();
-    SetClipboardData(CF_UNICODETEXT, memory);
-    CloseClipboard();
-  }
-};
+using TextBoxWindow = BinderBench;
 
 TEST_F(TextBoxWindow, TypedCharactersPassTheKeyHandlerWhichMayChangeOrRefuseThem) {
   form.txtPWCT.onKeyPress = [](wchar_t& key) {
@@ -69,21 +56,13 @@ TEST_F(TextBoxWindow, ALockedFieldCanBeFocusedSelectedAndCopiedButNotChanged) {
   form.txtPWCT.onKeyPress = [&](wchar_t&) { Log(L"key"); };
   Run([&](HWND window) {
     const HWND field = Item(window, ID_txtPWCT);
-    PutOnClipboard(L"pasted");
+    driver::PutOnClipboard(L"pasted");
     driver::Type(field, L"x");
     driver::Press(field, 'V', driver::kControl);
     driver::Press(field, 'A', driver::kControl);
     WaitUntil(L"all is selected", [&] { return SendMessageW(field, EM_GETSEL, 0, 0) == 10 << 16; });
     driver::Press(field, 'C', driver::kControl);
-    WaitUntil(L"it is copied", [] {
-      if (!OpenClipboard(nullptr)) return false;
-      const HANDLE data = GetClipboardData(CF_UNICODETEXT);
-      const bool copied =
-          data != nullptr &&
-          std::wstring_view(static_cast<const wchar_t*>(GlobalLock(data))) == L"4012345678";
-      CloseClipboard();
-      return copied;
-    });
+    WaitUntil(L"it is copied", [] { return driver::TextOnClipboard() == L"4012345678"; });
   });
   EXPECT_EQ(form.txtPWCT.Text(), L"4012345678");
   EXPECT_EQ(form.txtPWCT.SelectionLength(), 10);
@@ -94,7 +73,7 @@ TEST_F(TextBoxWindow, PastedTextPassesThePasteHandlerNotTheKeyHandler) {
   form.txtPWCT.onKeyPress = [](wchar_t& key) { key = 0; };
   form.txtPWCT.onPaste = [](std::wstring_view text) { return L"<" + std::wstring(text) + L">"; };
   Run([&](HWND window) {
-    PutOnClipboard(L"one\r\ntwo");
+    driver::PutOnClipboard(L"one\r\ntwo");
     driver::Press(Item(window, ID_txtPWCT), 'V', driver::kControl);
     WaitUntil(L"it is pasted", [&] { return TextOf(Item(window, ID_txtPWCT)) == L"<one>"; });
   });

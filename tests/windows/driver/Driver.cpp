@@ -39,6 +39,17 @@ void SendKey(WORD key, int modifiers) {
   Send(std::move(inputs));
 }
 
+/// For characters that no key of this keyboard types.
+void SendCharacter(wchar_t character) {
+  INPUT down = {};
+  down.type = INPUT_KEYBOARD;
+  down.ki.wScan = character;
+  down.ki.dwFlags = KEYEVENTF_UNICODE;
+  INPUT up = down;
+  up.ki.dwFlags |= KEYEVENTF_KEYUP;
+  Send({down, up});
+}
+
 struct Wanted {
   std::wstring_view caption;
   HWND found = nullptr;
@@ -138,6 +149,19 @@ std::wstring BoxText(HWND box) {
   return TextOf(Item(box, kBoxText));
 }
 
+HICON BoxIcon(HWND box) {
+  for (HWND child = GetWindow(box, GW_CHILD); child != nullptr;
+       child = GetWindow(child, GW_HWNDNEXT)) {
+    const LONG style = GetWindowLongW(child, GWL_STYLE);
+    wchar_t kind[16] = {};
+    GetClassNameW(child, kind, static_cast<int>(std::size(kind)));
+    if (lstrcmpiW(kind, L"Static") != 0 || (style & SS_TYPEMASK) != SS_ICON) continue;
+    if ((style & WS_VISIBLE) == 0) continue;
+    return reinterpret_cast<HICON>(SendMessageW(child, STM_GETICON, 0, 0));
+  }
+  return nullptr;
+}
+
 HWND OkButton(HWND box) {
   HWND button = nullptr;
   WaitUntil(L"there is an OK button", [&] {
@@ -209,8 +233,11 @@ void Type(HWND control, std::wstring_view text) {
   WaitForFocus(control);
   for (const wchar_t character : text) {
     const SHORT key = VkKeyScanW(character);
-    if (key == -1) throw DriverError(L"No key for " + std::wstring(1, character));
-    SendKey(LOBYTE(key), HIBYTE(key));
+    if (key == -1) {
+      SendCharacter(character);
+    } else {
+      SendKey(LOBYTE(key), HIBYTE(key));
+    }
   }
 }
 

@@ -35,6 +35,8 @@ HWND Item(HWND dialog, int id);
 std::wstring TextOf(HWND window);
 /// The text of a message box.
 std::wstring BoxText(HWND box);
+/// The icon of a message box; null when it has none.
+HICON BoxIcon(HWND box);
 /// The OK button of a message box, whichever buttons it has; waits for it.
 HWND OkButton(HWND box);
 /// The text in the only panel of a status bar.
