@@ -3,7 +3,8 @@
 #   wine_use PREFIX [managed]   sets the environment for a prefix, and makes it when it is not there
 #   wine_own_display PREFIX     sets DISPLAY to a virtual display that belongs to the prefix
 #   wine_end                    ends everything that runs in the prefix
-#   wine_run PROGRAM ...        runs a program in it, and waits for it alone
+#   wine_run PROGRAM ...        runs a program in it, and waits for it alone; PTA_DPI is the density
+#                               of its screen, where 96 is usual
 
 wine_loader=$(command -v wine64 || echo /usr/lib/wine/wine64)
 wine_server=$(command -v wineserver || echo /usr/lib/wine/wineserver)
@@ -30,6 +31,7 @@ wine_use() {
 wine_make_prefix() {
   echo "Making the Wine prefix $WINEPREFIX (once, about 12 s) ..." >&2
   local settings=$WINEPREFIX.reg
+  rm -f "$WINEPREFIX.dpi"
   cat >"$settings" <<REG
 REGEDIT4
 
@@ -64,8 +66,8 @@ wine_own_display() {
   if [[ -z $number ]] || ! [[ -S /tmp/.X11-unix/X$number ]] || ! wine_display_answers "$1"; then
     "$wine_server" -k >/dev/null 2>&1 || true
     rm -f "$state"
-    setsid Xvfb -displayfd 3 -terminate -screen 0 "${PTA_SCREEN:-1280x1024x24}" \
-      -dpi "${PTA_DPI:-96}" -nolisten tcp 3>"$state" >/dev/null 2>&1 </dev/null {display_lock}>&- &
+    setsid Xvfb -displayfd 3 -terminate -screen 0 "${PTA_SCREEN:-1600x1200x24}" \
+      -nolisten tcp 3>"$state" >/dev/null 2>&1 </dev/null {display_lock}>&- &
     echo $! >"$1.display.pid"
     local tries=0
     until [[ -s $state ]]; do
@@ -81,12 +83,28 @@ wine_own_display() {
 
 wine_display_answers() { kill -0 "$(<"$1.display.pid")" 2>/dev/null; }
 
+# The density is kept in the prefix, so it is written only when it changes.
+wine_use_dpi() {
+  local dpi=${PTA_DPI:-96} state=$WINEPREFIX.dpi known=96
+  exec {dpi_lock}>"$state.lock"
+  flock "$dpi_lock"
+  [[ -s $state ]] && known=$(<"$state")
+  if [[ $dpi != "$known" ]]; then
+    "$wine_loader" reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d "$dpi" /f \
+      >/dev/null 2>&1 </dev/null {dpi_lock}>&-
+    echo "$dpi" >"$state"
+  fi
+  flock -u "$dpi_lock"
+  exec {dpi_lock}>&-
+}
+
 # The output goes through a file: Wine's own background processes inherit a pipe, and whoever reads
 # it would wait for them.
 wine_run() {
   local output status=0
   output=$(mktemp)
   "$wine_server" -p120 >/dev/null 2>&1 </dev/null || true
+  wine_use_dpi
   "$wine_loader" "$@" >"$output" 2>&1 </dev/null || status=$?
   tr -d '\r' <"$output"
   rm -f "$output"

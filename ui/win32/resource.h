@@ -60,3 +60,7 @@
 #define ID_lblSelectTST 1056
 #define ID_lblSelectHeading 1057
 #define ID_lstTST 1058
+
+// Hidden labels, which name fields that have none of their own.
+#define ID_nameAirlinePrefix 1059
+#define ID_nameMCONumber 1060

@@ -1,31 +1,16 @@
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <map>
 
-#include "mco/frmSelectMCO.h"
-#include "tests/mco/WaitBench.h"
 #include "tests/windows/driver/Driver.h"
-#include "tst/frmSelectTST.h"
+#include "tests/windows/forms/AllForms.h"
 #include "ui/HelpDefinitions.h"
-#include "ui/frmPTA.h"
-#include "ui/frmWorking.h"
-#include "ui/win32/ControlIds.h"
-#include "ui/win32/FormWindow.h"
 #include "ui/win32/resource.h"
 
 namespace ui {
 
 namespace {
-
-/// All forms of the product, with what they are made of.
-struct Forms {
-  mco::WaitBench bench;
-  frmWorking working;
-  frmPTA pta{bench.desktop, bench.errors, bench.runEnd};
-  mco::frmSelectMCO selectMCO;
-  tst::frmSelectTST selectTST{bench.desktop, bench.runEnd};
-  std::vector<Form*> all{&working, &pta, &selectMCO, &bench.form, &selectTST};
-};
 
 std::vector<HWND> Children(HWND dialog) {
   std::vector<HWND> children;
@@ -33,6 +18,14 @@ std::vector<HWND> Children(HWND dialog) {
        child = GetWindow(child, GW_HWNDNEXT)) {
     children.push_back(child);
   }
+  return children;
+}
+
+/// Without those that are there to name fields and are never seen.
+std::vector<HWND> VisibleChildren(HWND dialog) {
+  std::vector<HWND> children = Children(dialog);
+  std::erase_if(children,
+                [](HWND child) { return (GetWindowLongW(child, GWL_STYLE) & WS_VISIBLE) == 0; });
   return children;
 }
 
@@ -85,10 +78,7 @@ class FormTemplates : public testing::TestWithParam<std::size_t> {
  protected:
   Forms forms;
   Form& form = *forms.all[GetParam()];
-  Guard guard;
-  InputGate gate;
-  Shell shell{guard, gate};
-  FormWindow window{form, GetModuleHandleW(nullptr), nullptr, shell};
+  OpenForm window{form};
   HWND dialog = window.handle();
 };
 
@@ -98,7 +88,7 @@ TEST_P(FormTemplates, HoldTheFormsControlsAndNoOthersInTheFormsOrder) {
     if (control->kind() != ControlKind::kTimer) wanted.push_back(ControlId(control->name()));
   }
   std::vector<int> there;
-  for (const HWND child : Children(dialog)) there.push_back(GetDlgCtrlID(child));
+  for (const HWND child : VisibleChildren(dialog)) there.push_back(GetDlgCtrlID(child));
   EXPECT_EQ(there, wanted);
 }
 
@@ -120,7 +110,6 @@ TEST_P(FormTemplates, GiveEveryCaptionTheRoomItNeeds) {
 TEST_P(FormTemplates, KeepEverythingInsideAndApart) {
   RECT whole = {};
   GetClientRect(dialog, &whole);
-  const std::vector<HWND> children = Children(dialog);
   std::map<int, RECT> places;
   for (const Control* control : form.controls()) {
     const int id = ControlId(control->name());
@@ -151,7 +140,7 @@ TEST_P(FormTemplates, HaveNoAcceleratorTwice) {
 }
 
 TEST_P(FormTemplates, HaveTheirLabelsDirectlyBeforeTheirFields) {
-  const std::vector<HWND> children = Children(dialog);
+  const std::vector<HWND> children = VisibleChildren(dialog);
   for (std::size_t i = 0; i < children.size(); ++i) {
     if (Accelerator(driver::TextOf(children[i])) == L'\0') continue;
     wchar_t kind[32] = {};
@@ -164,13 +153,10 @@ INSTANTIATE_TEST_SUITE_P(OfEveryForm, FormTemplates, testing::Range<std::size_t>
 
 class DialogTemplate : public testing::Test {
  protected:
-  HWND Item(int id) { return GetDlgItem(window.handle(), id); }
+  HWND Item(int id) { return window.Item(id); }
 
   Forms forms;
-  Guard guard;
-  InputGate gate;
-  Shell shell{guard, gate};
-  FormWindow window{forms.pta, GetModuleHandleW(nullptr), nullptr, shell};
+  OpenForm window{forms.pta};
 };
 
 TEST_F(DialogTemplate, ShowsAPTATotalOfSixtyCharactersWhole) {
@@ -200,23 +186,39 @@ TEST_F(DialogTemplate, HasNoDefaultButton) {
 
 TEST(WaitTemplate, HasRoomForItsStatusLine) {
   Forms forms;
-  Guard guard;
-  InputGate gate;
-  Shell shell{guard, gate};
-  const FormWindow window(forms.bench.form, GetModuleHandleW(nullptr), nullptr, shell);
-  const HWND bar = GetDlgItem(window.handle(), ID_staStatusText);
+  const OpenForm window(forms.bench.form);
+  const HWND bar = window.Item(ID_staStatusText);
   RECT area = {};
   GetClientRect(bar, &area);
   EXPECT_LE(SizeOf(bar, mco::WaitedFor(120)).cx + 12, area.right);
 }
 
+TEST(Templates, AreLookedAtOnAScreenOfTheDensityThatIsAskedFor) {
+  const char* const asked = std::getenv("PTA_DPI");
+  ASSERT_NE(asked, nullptr);
+  Forms forms;
+  const OpenForm window(forms.pta);
+  EXPECT_EQ(std::to_string(GetDpiForWindow(window.handle())), asked);
+}
+
+// The font comes in few sizes, so the forms grow in steps; boxes, frames and borders grow evenly.
+TEST(Templates, GrowWithTheDensityOfTheScreen) {
+  Forms forms;
+  const OpenForm window(forms.pta);
+  RECT character = {0, 0, 4, 8};
+  MapDialogRect(window.handle(), &character);
+  const UINT dpi = GetDpiForWindow(window.handle());
+  if (dpi == 96) {
+    EXPECT_EQ(character.bottom, 13);
+  } else {
+    EXPECT_GE(character.bottom, dpi == 120 ? 16 : 20);
+  }
+}
+
 TEST(Templates, AreAllInDialogUnitsOfMSSansSerif8) {
   Forms forms;
-  Guard guard;
-  InputGate gate;
-  Shell shell{guard, gate};
   for (Form* form : forms.all) {
-    const FormWindow window(*form, GetModuleHandleW(nullptr), nullptr, shell);
+    const OpenForm window(*form);
     LOGFONTW font = {};
     GetObjectW(reinterpret_cast<HFONT>(SendMessageW(window.handle(), WM_GETFONT, 0, 0)),
                sizeof font, &font);
