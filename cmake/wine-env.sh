@@ -1,10 +1,10 @@
 # What the scripts that run Windows programs under Wine share; to be sourced by Bash.
 #
-#   wine_use PREFIX [managed]   sets the environment for a prefix, and makes it when it is not there
+#   wine_use PREFIX [managed]   sets the environment for a prefix, and makes it when it is not there;
+#                               PTA_DPI is the density of its screen, where 96 is usual
 #   wine_own_display PREFIX     sets DISPLAY to a virtual display that belongs to the prefix
 #   wine_end                    ends everything that runs in the prefix
-#   wine_run PROGRAM ...        runs a program in it, and waits for it alone; PTA_DPI is the density
-#                               of its screen, where 96 is usual
+#   wine_run PROGRAM ...        runs a program in it, and waits for it alone
 
 wine_loader=$(command -v wine64 || echo /usr/lib/wine/wine64)
 wine_server=$(command -v wineserver || echo /usr/lib/wine/wineserver)
@@ -24,6 +24,7 @@ wine_use() {
   exec {wine_lock}>"$WINEPREFIX.lock"
   flock "$wine_lock"
   [[ -e $WINEPREFIX/.ready ]] || wine_make_prefix "$managed"
+  wine_use_dpi "${PTA_DPI:-96}"
   flock -u "$wine_lock"
   exec {wine_lock}>&-
 }
@@ -57,6 +58,19 @@ REG
   touch "$WINEPREFIX/.ready"
 }
 
+# A program takes the density when it starts. It is kept in the prefix.
+wine_use_dpi() {
+  local known=96
+  [[ -s $WINEPREFIX.dpi ]] && known=$(<"$WINEPREFIX.dpi")
+  [[ $1 == "$known" ]] && return
+  {
+    "$wine_server" -p120 || true
+    env -u DISPLAY "$wine_loader" reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD \
+      /d "$1" /f
+  } >/dev/null 2>&1 </dev/null {wine_lock}>&-
+  echo "$1" >"$WINEPREFIX.dpi"
+}
+
 # The display ends by itself when the prefix's last process is gone.
 wine_own_display() {
   local state=$1.display number=
@@ -83,28 +97,12 @@ wine_own_display() {
 
 wine_display_answers() { kill -0 "$(<"$1.display.pid")" 2>/dev/null; }
 
-# The density is kept in the prefix, so it is written only when it changes.
-wine_use_dpi() {
-  local dpi=${PTA_DPI:-96} state=$WINEPREFIX.dpi known=96
-  exec {dpi_lock}>"$state.lock"
-  flock "$dpi_lock"
-  [[ -s $state ]] && known=$(<"$state")
-  if [[ $dpi != "$known" ]]; then
-    "$wine_loader" reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d "$dpi" /f \
-      >/dev/null 2>&1 </dev/null {dpi_lock}>&-
-    echo "$dpi" >"$state"
-  fi
-  flock -u "$dpi_lock"
-  exec {dpi_lock}>&-
-}
-
 # The output goes through a file: Wine's own background processes inherit a pipe, and whoever reads
 # it would wait for them.
 wine_run() {
   local output status=0
   output=$(mktemp)
   "$wine_server" -p120 >/dev/null 2>&1 </dev/null || true
-  wine_use_dpi
   "$wine_loader" "$@" >"$output" 2>&1 </dev/null || status=$?
   tr -d '\r' <"$output"
   rm -f "$output"

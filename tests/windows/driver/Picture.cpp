@@ -41,6 +41,8 @@ Pixels TakeFromScreen(const RECT& area) {
   info.bmiHeader = HeaderOf(pixels.width, pixels.height);
   GetDIBits(screen, bitmap, 0, static_cast<UINT>(pixels.height), pixels.rows.data(), &info,
             DIB_RGB_COLORS);
+  // What a screen has in the fourth byte is nobody's, but readers take it for transparency.
+  for (std::uint32_t& pixel : pixels.rows) pixel |= 0xFF000000;
   DeleteObject(bitmap);
   DeleteDC(memory);
   ReleaseDC(nullptr, screen);
