@@ -6,6 +6,7 @@ say() { printf '== %s\n' "$*"; }
 #   native    compiler, CMake, Ninja, ccache and GoogleTest's sources
 #   windows   the cross compiler, the type library compiler and its headers, Wine with its fonts, a virtual display, ImageMagick
 #   checks    clang-format
+#   coverage  gcovr
 install_missing() {
   local part package
   local -a wanted=(cmake ninja-build ccache) missing=()
@@ -17,6 +18,7 @@ install_missing() {
           fonts-wine xvfb imagemagick util-linux locales)
         ;;
       checks) wanted+=(clang-format git) ;;
+      coverage) wanted+=(gcovr) ;;
     esac
   done
   for package in "${wanted[@]}"; do

@@ -1,6 +1,5 @@
 #include "practice/terminal/Bookings.h"
 
-#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <memory>
@@ -8,12 +7,14 @@
 
 #include "common/RunTimeError.h"
 #include "common/Text.h"
+#include "practice/host/BookingOrder.h"
 #include "practice/terminal/TypeLibrary.h"
 
 namespace practice::terminal {
 namespace {
 
 constexpr wchar_t kEnding[] = L".pnr";
+constexpr wchar_t kMenuFile[] = L"menu.txt";
 
 struct FileCloser {
   void operator()(std::FILE* file) const { std::fclose(file); }
@@ -47,8 +48,7 @@ std::vector<std::wstring> Bookings::Names() const {
     names.push_back(file.substr(0, file.size() - (std::size(kEnding) - 1)));
   } while (FindNextFileW(search, &found));
   FindClose(search);
-  std::sort(names.begin(), names.end());
-  return names;
+  return InMenuOrder(std::move(names), ReadFileText(Folder() + kMenuFile).value_or(L""));
 }
 
 std::wstring Bookings::Read(const std::wstring& nameOrPath) const {
