@@ -7,6 +7,8 @@ namespace ui {
 namespace {
 
 constexpr WPARAM kCtrlA = 1;
+constexpr WPARAM kCtrlBackspace = 0x7F;
+constexpr COLORREF kBlack = RGB(0, 0, 0);
 
 /// What the edit control's own shortcuts send as characters. They are commands, nothing is typed.
 bool IsCommand(WPARAM character) {
@@ -22,6 +24,10 @@ bool IsCommand(WPARAM character) {
 bool IsShiftInsert(UINT message, WPARAM key) {
   return message == WM_KEYDOWN && key == VK_INSERT && GetKeyState(VK_SHIFT) < 0 &&
          GetKeyState(VK_CONTROL) >= 0;
+}
+
+bool IsCtrlBackspace(UINT message, WPARAM key) {
+  return message == WM_KEYDOWN && key == VK_BACK && GetKeyState(VK_CONTROL) < 0;
 }
 
 bool MovesSelection(UINT message) {
@@ -74,7 +80,8 @@ HBRUSH NativeTextBox::Brush(HDC dc) {
     return GetSysColorBrush(index);
   }
   SetBkColor(dc, color);
-  SetTextColor(dc, GetSysColor(box_.Enabled() ? COLOR_WINDOWTEXT : COLOR_GRAYTEXT));
+  // A colour of the form's own is a light one, under which the user's colours for text may vanish.
+  SetTextColor(dc, box_.Enabled() ? kBlack : GetSysColor(COLOR_GRAYTEXT));
   SetDCBrushColor(dc, color);
   return static_cast<HBRUSH>(GetStockObject(DC_BRUSH));
 }
@@ -87,6 +94,8 @@ LRESULT NativeTextBox::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     result = Paste();
   } else if (IsShiftInsert(message, wParam)) {
     result = SendMessageW(window(), WM_PASTE, 0, 0);
+  } else if (IsCtrlBackspace(message, wParam)) {
+    if (!box_.Locked()) EraseWord();
   } else {
     result = NativeControl::Handle(message, wParam, lParam);
   }
@@ -98,10 +107,25 @@ LRESULT NativeTextBox::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
 
 LRESULT NativeTextBox::Type(WPARAM wParam, LPARAM lParam) {
   if (wParam == kCtrlA) return SendMessageW(window(), EM_SETSEL, 0, -1);
+  if (wParam == kCtrlBackspace) return 0;  // has been seen to when the key went down
   if (box_.Locked() || IsCommand(wParam)) return Default(WM_CHAR, wParam, lParam);
   const wchar_t character = box_.FilterKey(static_cast<wchar_t>(wParam));
   if (character == 0 || window() == nullptr) return 0;
   return Default(WM_CHAR, character, lParam);
+}
+
+// The edit control knows no such key and would take its character for text.
+void NativeTextBox::EraseWord() {
+  TakeSelection();
+  const std::wstring text = NativeText();
+  const auto end = static_cast<std::size_t>(box_.SelectionStart());
+  if (box_.SelectionLength() == 0) {
+    const std::size_t last = text.substr(0, end).find_last_not_of(L' ');
+    const std::size_t before = last == text.npos ? last : text.find_last_of(L' ', last);
+    SendMessageW(window(), EM_SETSEL, before == text.npos ? 0 : before + 1,
+                 static_cast<LPARAM>(end));
+  }
+  SendMessageW(window(), EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(L""));
 }
 
 LRESULT NativeTextBox::Paste() {

@@ -17,6 +17,7 @@ class NativeTextBox : public NativeControl {
 
  private:
   LRESULT Type(WPARAM wParam, LPARAM lParam);
+  void EraseWord();
   LRESULT Paste();
   void TakeSelection();
   std::wstring NativeText() const;

@@ -127,6 +127,35 @@ TEST_F(TextBoxWindow, AnIncompleteFieldIsPaintedYellowAndALockedOneGrey) {
   });
 }
 
+/// Another colour of the user's for texts, while it stands.
+class OtherTextColor {
+ public:
+  explicit OtherTextColor(COLORREF color) : before_(GetSysColor(COLOR_WINDOWTEXT)) { Set(color); }
+  ~OtherTextColor() { Set(before_); }
+  OtherTextColor(const OtherTextColor&) = delete;
+  OtherTextColor& operator=(const OtherTextColor&) = delete;
+
+ private:
+  static void Set(COLORREF color) {
+    const int index = COLOR_WINDOWTEXT;
+    SetSysColors(1, &index, &color);
+  }
+
+  COLORREF before_;
+};
+
+TEST_F(TextBoxWindow, TheTextOfAYellowFieldIsBlackForAUserWithWhiteTextsToo) {
+  const OtherTextColor white(RGB(255, 255, 255));
+  form.txtPWCT.SetBackColor(kYellow);
+  Run([&](HWND window) {
+    const HDC dc = GetDC(window);
+    SendMessageW(window, WM_CTLCOLOREDIT, reinterpret_cast<WPARAM>(dc),
+                 reinterpret_cast<LPARAM>(Item(window, ID_txtPWCT)));
+    EXPECT_EQ(GetTextColor(dc), RGB(0, 0, 0));
+    ReleaseDC(window, dc);
+  });
+}
+
 TEST_F(TextBoxWindow, F1ReachesTheKeyDownHandlerOfTheFocusedControl) {
   form.txtPWCT.onKeyDown = [&](int key) { Log(std::to_wstring(key)); };
   form.chkOP.onKeyDown = [&](int key) { Log(L"check " + std::to_wstring(key)); };

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/windows/dialog/DialogStage.h"
+#include "tests/windows/dialog/HeardBeeps.h"
 #include "tests/windows/driver/Clipboard.h"
 #include "tests/windows/driver/Driver.h"
 
@@ -121,6 +122,38 @@ TEST_F(Editing, CtrlASelectsTheWholeTextWithoutABeepOrACharacter) {
   });
 }
 
+TEST_F(Editing, CtrlBackspaceErasesTheWordBeforeTheCaret) {
+  stage.RunFilled([&] {
+    const HWND field = stage.Item(ID_txtPWCT);
+    stage.GoTo(field);
+    driver::Press(field, VK_END);
+    driver::Press(field, VK_BACK, driver::kControl);
+    WaitForText(field, L"SK AT ARN A/P BEFORE ");
+    driver::Press(field, VK_BACK, driver::kControl);
+    WaitForText(field, L"SK AT ARN A/P ");
+    driver::Press(field, VK_HOME);
+    driver::Press(field, VK_BACK, driver::kControl);
+    driver::Type(field, L"x");
+    WaitForText(field, L"XSK AT ARN A/P ");
+    driver::Press(field, VK_BACK, driver::kControl);
+    WaitForText(field, L"SK AT ARN A/P ");
+  });
+  EXPECT_EQ(stage.form.txtPWCT.Text(), L"SK AT ARN A/P ");
+}
+
+TEST_F(Editing, CtrlBackspaceErasesTheSelectionAndNoMoreAndDoesNotBeep) {
+  const int before = HeardBeeps();
+  stage.RunFilled([&] {
+    const HWND field = stage.Item(ID_txtIATANumber);
+    stage.GoTo(field);
+    driver::Press(field, VK_END);
+    driver::Press(field, VK_LEFT, driver::kShift);
+    driver::Press(field, VK_BACK, driver::kControl);
+    WaitForText(field, L"8024687");
+  });
+  EXPECT_EQ(HeardBeeps(), before);
+}
+
 class LockedOnes : public Editing, public testing::WithParamInterface<const wchar_t*> {};
 
 TEST_P(LockedOnes, AreSelectedAndCopiedButNeitherCutNorPastedInto) {
@@ -134,6 +167,7 @@ TEST_P(LockedOnes, AreSelectedAndCopiedButNeitherCutNorPastedInto) {
     driver::Press(field, 'A', driver::kControl);
     WaitForAllSelected(field);
     driver::Press(field, 'X', driver::kControl);
+    driver::Press(field, VK_BACK, driver::kControl);
     driver::Press(field, 'C', driver::kControl);
     WaitUntil(L"it is copied", [&] { return driver::TextOnClipboard() == text; });
     EXPECT_EQ(driver::TextOf(field), text);
