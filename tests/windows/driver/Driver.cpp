@@ -215,8 +215,11 @@ void WaitForForeground(HWND window) {
 
 void WaitForFocus(HWND control) {
   WaitForForeground(GetAncestor(control, GA_ROOT));
-  WaitUntil(L"the focus is in control " + std::to_wstring(GetDlgCtrlID(control)),
-            [&] { return FocusOf(control) == control; });
+  if (Holds([&] { return FocusOf(control) == control; })) return;
+  throw DriverError(L"Waited in vain until the focus is in control " +
+                    std::to_wstring(GetDlgCtrlID(control)) + L"; it is in control " +
+                    std::to_wstring(GetDlgCtrlID(FocusOf(GetForegroundWindow()))) + L" of \"" +
+                    TextOf(GetForegroundWindow()) + L"\"");
 }
 
 HWND WaitForFocusWithin(HWND window) {

@@ -2,6 +2,8 @@
 
 #include <map>
 
+#include "common/ConstDefintions.h"
+#include "tests/windows/driver/Clipboard.h"
 #include "tests/windows/driver/Driver.h"
 #include "tests/windows/driver/Picture.h"
 #include "ui/win32/ControlIds.h"
@@ -19,6 +21,9 @@ const std::map<std::wstring, int> kMarks = {{L"frmWorking", ID_lblWorking},
                                             {L"frmSelectTST", ID_lstTST}};
 
 constexpr COLORREF kYellow = RGB(255, 255, 0);
+/// How long a window may take until it shows what is expected.
+constexpr auto kLook = std::chrono::seconds(5);
+constexpr auto kTimerInterval = std::chrono::seconds(5);
 
 std::wstring WithLineBreaks(const std::wstring& text) {
   std::wstring lines;
@@ -27,6 +32,51 @@ std::wstring WithLineBreaks(const std::wstring& text) {
     lines += text[i] == L'\r' ? L'\n' : text[i];
   }
   return lines;
+}
+
+/// As far as it can be seen from another process: the icon, whichever it is, and the buttons.
+void CheckStyle(HWND box, int style) {
+  constexpr int kIcons = 0xF0;
+  if ((BoxIcon(box) != nullptr) != ((style & kIcons) != 0)) {
+    throw DriverError(L"The box has an icon, or none, against its style");
+  }
+  const bool twoButtons = GetDlgItem(box, IDOK) != nullptr && GetDlgItem(box, IDCANCEL) != nullptr;
+  if (twoButtons != ((style & common::kOkCancel) != 0)) {
+    throw DriverError(L"The box has other buttons than those of its style");
+  }
+}
+
+std::set<int> LineNumbers(const std::wstring& lines) {
+  std::set<int> numbers;
+  for (std::size_t from = 0; from < lines.size();) {
+    numbers.insert(std::stoi(lines.substr(from)));
+    from = std::min(lines.find(L',', from), lines.size() - 1) + 1;
+  }
+  return numbers;
+}
+
+bool IsSelected(HWND list, int line) {
+  return SendMessageW(list, LB_GETSEL, static_cast<WPARAM>(line) - 1, 0) > 0;
+}
+
+/// Space turns a line's selection over, so only the lines that are not as wanted are touched.
+void PickSeveral(HWND list, int count, const std::set<int>& wanted) {
+  int at = static_cast<int>(SendMessageW(list, LB_GETCARETINDEX, 0, 0)) + 1;
+  for (int line = 1; line <= count; ++line) {
+    const bool select = wanted.contains(line);
+    if (IsSelected(list, line) == select) continue;
+    for (; at < line; ++at) Press(list, VK_DOWN);
+    for (; at > line; --at) Press(list, VK_UP);
+    Press(list, VK_SPACE);
+    WaitUntil(L"line " + std::to_wstring(line) + L" is as wanted",
+              [&] { return IsSelected(list, line) == select; });
+  }
+}
+
+void PickOne(HWND list, int line) {
+  Press(list, VK_HOME);
+  for (int at = 1; at < line; ++at) Press(list, VK_DOWN);
+  WaitUntil(L"the line is selected", [&] { return IsSelected(list, line); });
 }
 
 bool HasStyle(HWND window, LONG style) { return (GetWindowLongW(window, GWL_STYLE) & style) != 0; }
@@ -62,6 +112,7 @@ void WindowAgent::Perform(const practice::AgentLine& line) {
          GoTo(Control(name));
          TypeOver(Control(name), text);
        }},
+      {L"paste", [&] { Paste(Control(name), text); }},
       {L"key",
        [&] {
          GoTo(Control(name));
@@ -73,6 +124,7 @@ void WindowAgent::Perform(const practice::AgentLine& line) {
          Click(Control(name));
        }},
       {L"pick", [&] { Pick(Control(name), text); }},
+      {L"tick", [&] { Tick(text); }},
       {L"close", [&] { PostMessageW(form_, WM_SYSCOMMAND, SC_CLOSE, 0); }}};
   const auto found = actions.find(line.verb);
   if (found == actions.end()) throw DriverError(L"\"" + line.verb + L"\" is not known here");
@@ -104,12 +156,13 @@ void WindowAgent::LookAtProgress() {
 void WindowAgent::AnswerBox(const practice::AgentLine& line) {
   const HWND box = program_.WaitForBox();
   look_(box, L"box");
-  if (BoxText(box) != WithLineBreaks(line.Word(1))) {
+  if (!Holds([&] { return BoxText(box) == WithLineBreaks(line.Word(1)); }, kLook)) {
     throw DriverError(L"The box says \"" + BoxText(box) + L"\"");
   }
   if (line.words.size() > 3 && TextOf(box) != line.Word(3)) {
     throw DriverError(L"The box bears \"" + TextOf(box) + L"\"");
   }
+  if (line.words.size() > 2) CheckStyle(box, std::stoi(line.Word(2)));
   const HWND button = line.Word(0) == L"ok" ? OkButton(box) : Item(box, IDCANCEL);
   WaitForFocusWithin(box);
   Click(button);
@@ -117,7 +170,7 @@ void WindowAgent::AnswerBox(const practice::AgentLine& line) {
 }
 
 void WindowAgent::See(const std::wstring& control, const std::wstring& text) {
-  if (Holds([&] { return TextIn(control) == text; }, std::chrono::seconds(5))) return;
+  if (Holds([&] { return TextIn(control) == text; }, kLook)) return;
   throw DriverError(control + L" shows \"" + TextIn(control) + L"\" instead of \"" + text + L"\"");
 }
 
@@ -130,7 +183,7 @@ void WindowAgent::CheckState(const std::wstring& control, std::wstring state) {
   const bool wanted = !state.starts_with(L"not-");
   if (!wanted) state.erase(0, 4);
   const HWND window = Control(control);
-  if (Holds([&] { return Is(window, state) == wanted; }, std::chrono::seconds(5))) return;
+  if (Holds([&] { return Is(window, state) == wanted; }, kLook)) return;
   throw DriverError(control + L" is " + (wanted ? L"not " : L"") + state);
 }
 
@@ -154,19 +207,33 @@ void WindowAgent::GoTo(HWND control) {
   throw DriverError(L"The Tab key does not come to " + std::to_wstring(GetDlgCtrlID(control)));
 }
 
+void WindowAgent::Paste(HWND field, const std::wstring& text) {
+  GoTo(field);
+  PutOnClipboard(text);
+  Press(field, VK_HOME);
+  Press(field, VK_END, kShift);
+  Press(field, 'V', kControl);
+}
+
 void WindowAgent::Pick(HWND list, const std::wstring& lines) {
   GoTo(list);
-  const bool several = HasStyle(list, LBS_MULTIPLESEL);
-  int at = static_cast<int>(SendMessageW(list, LB_GETCARETINDEX, 0, 0)) + 1;
-  for (std::size_t from = 0; from < lines.size();) {
-    const int line = std::stoi(lines.substr(from));
-    for (; at < line; ++at) Press(list, VK_DOWN);
-    for (; at > line; --at) Press(list, VK_UP);
-    if (several) Press(list, VK_SPACE);
-    WaitUntil(L"the line is selected",
-              [&] { return SendMessageW(list, LB_GETSEL, static_cast<WPARAM>(line) - 1, 0) > 0; });
-    from = std::min(lines.find(L',', from), lines.size() - 1) + 1;
+  const std::set<int> wanted = LineNumbers(lines);
+  const auto count = static_cast<int>(SendMessageW(list, LB_GETCOUNT, 0, 0));
+  if (*wanted.begin() < 1 || *wanted.rbegin() > count) {
+    throw DriverError(L"The list has no line " + lines);
   }
+  if (HasStyle(list, LBS_MULTIPLESEL)) {
+    PickSeveral(list, count, wanted);
+  } else {
+    PickOne(list, *wanted.begin());
+  }
+}
+
+// Every timer of the program runs by itself, so the agent lets the time pass; the form may be gone
+// before it is over.
+void WindowAgent::Tick(const std::wstring& times) {
+  const int count = times.empty() ? 1 : std::stoi(times);
+  Holds([this] { return !IsWindow(form_) || !IsWindowVisible(form_); }, count * kTimerInterval);
 }
 
 HWND WindowAgent::Control(const std::wstring& name) const {

@@ -29,7 +29,9 @@ class WindowAgent {
   void CheckState(const std::wstring& control, std::wstring state);
   bool Is(HWND control, const std::wstring& state) const;
   void GoTo(HWND control);
+  void Paste(HWND field, const std::wstring& text);
   void Pick(HWND list, const std::wstring& lines);
+  void Tick(const std::wstring& times);
   HWND Control(const std::wstring& name) const;
   std::wstring TextIn(const std::wstring& control) const;
   void LookAtProgress();
