@@ -23,6 +23,8 @@ const std::map<std::wstring, int> kMarks = {{L"frmWorking", ID_lblWorking},
 constexpr COLORREF kYellow = RGB(255, 255, 0);
 /// How long a window may take until it shows what is expected.
 constexpr auto kLook = std::chrono::seconds(5);
+/// How long the program may be busy with the host before its next form comes.
+constexpr auto kOnTheWay = std::chrono::seconds(60);
 constexpr auto kTimerInterval = std::chrono::seconds(5);
 
 std::wstring WithLineBreaks(const std::wstring& text) {
@@ -132,12 +134,13 @@ void WindowAgent::Perform(const practice::AgentLine& line) {
 }
 
 void WindowAgent::ComeTo(const std::wstring& form) {
-  WaitUntil(form + L" is there", [&] {
+  const auto isThere = [&] {
     LookAtProgress();
     form_ = program_.WindowWith(kMarks.at(form));
     return (form_ != nullptr && IsWindowEnabled(form_)) || program_.Box() != nullptr ||
            !program_.IsRunning();
-  });
+  };
+  if (!Holds(isThere, kOnTheWay)) throw DriverError(L"Waited in vain for " + form);
   if (program_.Box() != nullptr) throw DriverError(L"A box says " + BoxText(program_.Box()));
   if (!program_.IsRunning()) throw DriverError(L"The program has ended");
   WaitForFocusWithin(form_);
@@ -202,7 +205,11 @@ void WindowAgent::GoTo(HWND control) {
     const HWND focus = WaitForFocusWithin(form_);
     if (focus == control) return;
     Press(focus, VK_TAB);
-    WaitUntil(L"the focus has moved on", [&] { return FocusOf(form_) != focus; });
+    // Without any focus for a moment nothing has moved yet: a second Tab would go too far.
+    WaitUntil(L"the focus has moved on", [&] {
+      const HWND now = FocusOf(form_);
+      return now != nullptr && now != focus;
+    });
   }
   throw DriverError(L"The Tab key does not come to " + std::to_wstring(GetDlgCtrlID(control)));
 }
