@@ -138,9 +138,10 @@ HWND Item(HWND dialog, int id) {
 std::wstring TextOf(HWND window) {
   std::array<wchar_t, 4096> text = {};
   DWORD_PTR length = 0;
-  constexpr UINT kHangs = 2000;
+  // A program that waits for its host, on a busy machine, may be silent for long.
+  constexpr UINT kPatience = 10000;
   SendMessageTimeoutW(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()),
-                      SMTO_ABORTIFHUNG, kHangs, &length);
+                      SMTO_NORMAL, kPatience, &length);
   return text.data();
 }
 
