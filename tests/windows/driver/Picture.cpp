@@ -1,7 +1,9 @@
 #include "tests/windows/driver/Picture.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdio>
+#include <functional>
 #include <vector>
 
 #include "tests/windows/driver/Driver.h"
@@ -49,6 +51,12 @@ Pixels TakeFromScreen(const RECT& area) {
   return pixels;
 }
 
+/// As the screen shows a window that has not been painted at all.
+bool IsOneColour(const Pixels& pixels) {
+  return std::adjacent_find(pixels.rows.begin(), pixels.rows.end(), std::not_equal_to<>()) ==
+         pixels.rows.end();
+}
+
 /// Painting comes after everything else: takes pictures until they have stayed the same for a
 /// while, which is shorter than the caret's blinking.
 Pixels TakeWhenPainted(const RECT& area) {
@@ -60,9 +68,9 @@ Pixels TakeWhenPainted(const RECT& area) {
         Pixels next = TakeFromScreen(area);
         same = next.rows == last.rows ? same + 1 : 0;
         last = std::move(next);
-        return same == kSameInARow;
+        return same >= kSameInARow && !IsOneColour(last);
       },
-      std::chrono::seconds(5), std::chrono::milliseconds(40));
+      std::chrono::seconds(10), std::chrono::milliseconds(40));
   return last;
 }
 
