@@ -7,6 +7,7 @@ say() { printf '== %s\n' "$*"; }
 #   windows   the cross compiler, the type library compiler and its headers, Wine with its fonts, a virtual display, ImageMagick
 #   checks    clang-format
 #   coverage  gcovr
+#   bench     Google Benchmark, and the counter of instructions
 install_missing() {
   local part package
   local -a wanted=(cmake ninja-build ccache) missing=()
@@ -19,6 +20,7 @@ install_missing() {
         ;;
       checks) wanted+=(clang-format git) ;;
       coverage) wanted+=(gcovr) ;;
+      bench) wanted+=(libbenchmark-dev valgrind) ;;
     esac
   done
   for package in "${wanted[@]}"; do

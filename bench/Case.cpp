@@ -1,0 +1,46 @@
+#include "bench/Case.h"
+
+#include <stdexcept>
+
+#include "app/Program.h"
+#include "common/Text.h"
+
+namespace bench {
+namespace {
+
+void Demand(bool holds, const std::string& why) {
+  if (!holds) throw std::logic_error(why);
+}
+
+void DemandNoBox(const Workplace& place) {
+  Demand(place.agent.lastBox().empty(), "a box: " + common::ToUtf8(place.agent.lastBox()));
+}
+
+}  // namespace
+
+Case::Case(const Booking& booking) : before_(booking) {
+  Workplace recorded = Prepare();
+  RecordingLibrary library(recorded.library(), recording_);
+  const int exitCode = app::RunProgram(library, recorded.agent, recorded.platform);
+  Demand(exitCode == 0, "the recorded run failed");
+  DemandNoBox(recorded);
+  Demand(!recorded.host.HasActivePnr(), "the recorded run did not queue its PNR");
+  pnrAfter_ = recorded.host.PnrText();
+  Demand(common::Contains(pnrAfter_, L" FO 117-4012345678 STO "), "the recorded run wrote no PTA");
+
+  Workplace replayed = Prepare();
+  ReplayBare(replayed);
+  Demand(replayed.host.PnrText() == pnrAfter_, "a replay does not do what the run did");
+}
+
+void Case::Run(Workplace& place) const {
+  app::RunProgram(place.library(), place.agent, place.platform);
+}
+
+void Case::ReplayBare(Workplace& place) const { Replay(recording_, place.library()); }
+
+void Case::RunAlone(Workplace& place, AnsweringLibrary& library) const {
+  app::RunProgram(library, place.agent, place.platform);
+}
+
+}  // namespace bench

@@ -1,0 +1,74 @@
+#include "bench/Overhead.h"
+
+#include <cstdio>
+
+namespace bench {
+namespace {
+
+using benchmark::State;
+
+constexpr double kMostOverhead = 1.10;
+
+// What is prepared for a run, and what is left of it, are made and cleared away off the clock.
+template <typename Part>
+void Measure(State& state, const Case& measured, const Part& part) {
+  for (auto _ : state) {
+    state.PauseTiming();
+    {
+      Workplace place = measured.Prepare();
+      state.ResumeTiming();
+      part(place);
+      state.PauseTiming();
+      if (!place.agent.lastBox().empty()) state.SkipWithError("the run had something to report");
+    }
+    state.ResumeTiming();
+  }
+}
+
+void Register(const std::string& name, const Case& measured) {
+  benchmark::RegisterBenchmark((name + "/run").c_str(), [&measured](State& state) {
+    Measure(state, measured, [&](Workplace& place) { measured.Run(place); });
+  })->Unit(benchmark::kMicrosecond);
+  benchmark::RegisterBenchmark((name + "/calls").c_str(), [&measured](State& state) {
+    Measure(state, measured, [&](Workplace& place) { measured.ReplayBare(place); });
+  })->Unit(benchmark::kMicrosecond);
+  RegisterAlone(name + "/alone", measured);
+}
+
+void PrintOne(const Figures& figures, const std::string& name, const std::string& booking) {
+  if (!figures.Has(name + "/run") || !figures.Has(name + "/calls")) return;
+  PrintFigure(booking + ", over its library calls alone",
+              figures.Of(name + "/run") / figures.Of(name + "/calls"), kMostOverhead);
+}
+
+}  // namespace
+
+void RegisterAlone(const std::string& name, const Case& measured) {
+  benchmark::RegisterBenchmark(name.c_str(), [&measured](State& state) {
+    for (auto _ : state) {
+      state.PauseTiming();
+      {
+        Workplace place = measured.Prepare();
+        AnsweringLibrary answers = measured.PrepareAnswers();
+        state.ResumeTiming();
+        measured.RunAlone(place, answers);
+        state.PauseTiming();
+        if (!place.agent.lastBox().empty()) state.SkipWithError("the run had something to report");
+      }
+      state.ResumeTiming();
+    }
+  })->Unit(benchmark::kMicrosecond);
+}
+
+Overhead::Overhead() {
+  Register("ordinary", ordinary_);
+  Register("largest", largest_);
+}
+
+void Overhead::Print(const Figures& figures) const {
+  std::printf("\nA whole run in CPU time\n");
+  PrintOne(figures, "ordinary", "ordinary booking");
+  PrintOne(figures, "largest", "largest booking");
+}
+
+}  // namespace bench

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "bench/Case.h"
+#include "bench/Figures.h"
+
+namespace bench {
+
+/// A whole run over its library calls alone, with the ordinary and with the largest booking.
+class Overhead {
+ public:
+  /// Registers the benchmarks; must outlive them.
+  Overhead();
+  void Print(const Figures& figures) const;
+
+ private:
+  Case ordinary_{OrdinaryBooking()};
+  Case largest_{BookingOf(LargestSize())};
+};
+
+/// Registers one benchmark of a case's run against recorded answers.
+void RegisterAlone(const std::string& name, const Case& measured);
+
+}  // namespace bench

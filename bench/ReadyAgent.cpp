@@ -1,0 +1,44 @@
+#include "bench/ReadyAgent.h"
+
+#include <stdexcept>
+
+#include "common/ConstDefintions.h"
+
+namespace bench {
+namespace {
+
+void PressOK(ui::Form& form) {
+  auto* ok = dynamic_cast<ui::Button*>(form.Find(L"cmdOK"));
+  if (ok == nullptr || !ok->Enabled()) throw std::logic_error("a form's OK can not be pressed");
+  ok->Clicked();
+}
+
+}  // namespace
+
+void ReadyAgent::Show(ui::Form& form) {
+  if (!form.Load()) return;
+  form.Shown(*this);
+  if (form.name() == L"frmPTA") dialog_ = &form;
+}
+
+void ReadyAgent::ShowModal(ui::Form& form) {
+  if (!form.Load()) return;
+  form.Shown(*this);
+  if (auto* list = dynamic_cast<ui::ListBox*>(form.Find(L"lstTST"))) {
+    list->SelectionChanged(std::vector<bool>(chosen_, true));
+  }
+  PressOK(form);
+}
+
+void ReadyAgent::Run() {
+  if (dialog_ != nullptr) PressOK(*dialog_);
+}
+
+int ReadyAgent::ShowBox(std::wstring_view text, int, std::wstring_view) {
+  lastBox_ = text;
+  return common::kOk;
+}
+
+void ReadyAgent::FocusAsked(ui::Control& control) { control.form().FocusMovedTo(&control); }
+
+}  // namespace bench

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <utility>
+
+#include "hostlib/Object.h"
+
+namespace bench {
+
+/// One thing that a program did with a library. Objects are known by their place, in the order in
+/// which they were made.
+struct Step {
+  enum class Kind { kCreate, kInterface, kCall, kRelease };
+  static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
+
+  Kind kind = Kind::kCall;
+  std::size_t object = kNone;  ///< acted on; with kCreate the library itself
+  std::size_t made = kNone;    ///< the object that came of it
+  std::wstring className;      ///< of what was made
+  int number = 0;              ///< slot or interface
+  hostlib::Arguments arguments;
+  std::vector<std::pair<std::size_t, std::size_t>> objects;  ///< argument and the object in it
+  hostlib::Value answer;                                     ///< unless it is an object
+};
+
+struct Recording {
+  std::vector<Step> steps;
+  std::size_t objects = 0;
+
+  /// How many of the steps are calls of an operation.
+  std::size_t CountCalls() const;
+};
+
+/// A library that writes down what is done with another one.
+class RecordingLibrary : public hostlib::Library {
+ public:
+  RecordingLibrary(hostlib::Library& inner, Recording& recording)
+      : inner_(inner), recording_(recording) {}
+  hostlib::ObjectPtr Create(std::wstring_view className) override;
+
+ private:
+  hostlib::Library& inner_;
+  Recording& recording_;
+};
+
+/// Does with a library what was done with the recorded one, and nothing else.
+void Replay(const Recording& recording, hostlib::Library& library);
+
+}  // namespace bench
