@@ -113,8 +113,7 @@ std::wstring LeftTrim(std::wstring_view text) {
 }
 
 std::wstring Trim(std::wstring_view text) {
-  const std::wstring left = LeftTrim(text);
-  return left.substr(0, left.find_last_not_of(L' ') + 1);
+  return LeftTrim(text.substr(0, text.find_last_not_of(L' ') + 1));
 }
 
 int InStr(std::wstring_view text, std::wstring_view sought) {

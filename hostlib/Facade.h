@@ -17,9 +17,19 @@ class Facade {
 
   /// Calls the operation on its interface. Throws LibraryError, located; also when the object has
   /// been released.
-  Value Call(const Operation& operation, const Arguments& arguments) const;
+  template <typename... Values>
+  Value Call(const Operation& operation, Values&&... values) const {
+    // Made in their place: what stands in a list in braces would be copied out of it.
+    Arguments arguments;
+    arguments.reserve(sizeof...(values));
+    (arguments.emplace_back(std::forward<Values>(values)), ...);
+    return CallWith(operation, arguments);
+  }
 
   ObjectPtr object_;
+
+ private:
+  Value CallWith(const Operation& operation, const Arguments& arguments) const;
 };
 
 }  // namespace hostlib

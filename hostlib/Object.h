@@ -74,8 +74,8 @@ class Library {
 
 /// The array of texts in a value: the value itself, or what a list object gives through its
 /// default member. An empty value is an array without rows.
-TextArray TextsOf(const Value& value);
-IntegerArray IntegersOf(const Value& value);
-DoubleArray DoublesOf(const Value& value);
+TextArray TextsOf(Value value);
+IntegerArray IntegersOf(Value value);
+DoubleArray DoublesOf(Value value);
 
 }  // namespace hostlib

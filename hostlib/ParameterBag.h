@@ -12,11 +12,11 @@ class ParameterBag : public Facade {
   /// A bag that the library made.
   explicit ParameterBag(const Value& answer) : Facade(answer.AsObject()) {}
 
-  void SetValue(std::wstring_view key, const Value& value) {
-    Call(operations::parameter_bag::kSetValue, {Value(key), value});
+  void SetValue(std::wstring_view key, Value value) {
+    Call(operations::parameter_bag::kSetValue, key, std::move(value));
   }
   Value GetValue(std::wstring_view key) const {
-    return Call(operations::parameter_bag::kGetValue, {Value(key)});
+    return Call(operations::parameter_bag::kGetValue, key);
   }
 };
 

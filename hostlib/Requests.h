@@ -11,13 +11,11 @@ class ProfileStore : public Facade {
       : Facade(library.Create(operations::profile_store::kClass)) {}
   /// "" when the file, the section or the key is missing.
   std::wstring ReadValue(std::wstring_view path, std::wstring_view section, std::wstring_view key) {
-    return Call(operations::profile_store::kReadValue, {Value(path), Value(section), Value(key)})
-        .Text();
+    return Call(operations::profile_store::kReadValue, path, section, key).Text();
   }
   void WriteValue(std::wstring_view path, std::wstring_view section, std::wstring_view key,
                   std::wstring_view value) {
-    Call(operations::profile_store::kWriteValue,
-         {Value(path), Value(section), Value(key), Value(value)});
+    Call(operations::profile_store::kWriteValue, path, section, key, value);
   }
 };
 
@@ -28,14 +26,12 @@ class UserSettingsStore : public Facade {
   /// "" when missing.
   std::wstring GetSetting(std::wstring_view application, std::wstring_view section,
                           std::wstring_view key) {
-    return Call(operations::user_settings_store::kGetSetting,
-                {Value(application), Value(section), Value(key), Missing{}})
+    return Call(operations::user_settings_store::kGetSetting, application, section, key, Missing{})
         .Text();
   }
   void SaveSetting(std::wstring_view application, std::wstring_view section, std::wstring_view key,
                    std::wstring_view value) {
-    Call(operations::user_settings_store::kSaveSetting,
-         {Value(application), Value(section), Value(key), Value(value)});
+    Call(operations::user_settings_store::kSaveSetting, application, section, key, value);
   }
 };
 
@@ -44,7 +40,7 @@ class OfficeDisplayReader : public Facade {
   explicit OfficeDisplayReader(Library& library)
       : Facade(library.Create(operations::office_display_reader::kClass)) {}
   ParameterBag ReadResponse(std::wstring_view response) {
-    return ParameterBag(Call(operations::office_display_reader::kReadResponse, {Value(response)}));
+    return ParameterBag(Call(operations::office_display_reader::kReadResponse, response));
   }
 };
 
@@ -54,11 +50,11 @@ class QueueRequest : public Facade {
       : Facade(library.Create(operations::queue_request::kClass)) {}
   /// "" when nothing can be built.
   std::wstring BuildCommand(const ParameterBag& bag) {
-    return Call(operations::queue_request::kBuildCommand, {Value(bag.object())}).Text();
+    return Call(operations::queue_request::kBuildCommand, bag.object()).Text();
   }
   ParameterBag ReadResponse(std::wstring_view response) {
     return ParameterBag(
-        Call(operations::queue_request::kReadResponse, {Value(response), Missing{}, Missing{}}));
+        Call(operations::queue_request::kReadResponse, response, Missing{}, Missing{}));
   }
 };
 
@@ -75,9 +71,7 @@ class PnrReader : public Facade {
   std::int16_t CountFSElements() { return Count(operations::pnr_reader::kCountFSElements); }
   std::int16_t CountOSIElements() { return Count(operations::pnr_reader::kCountOSIElements); }
   std::int16_t CountMCOElements() { return Count(operations::pnr_reader::kCountMCOElements); }
-  std::wstring GetRecordLocator() {
-    return Call(operations::pnr_reader::kGetRecordLocator, {}).Text();
-  }
+  std::wstring GetRecordLocator() { return Call(operations::pnr_reader::kGetRecordLocator).Text(); }
 
   // Each reads intKeyIndex (0-based) from the bag where an element is addressed and writes the
   // element's values into the same bag.
@@ -92,16 +86,14 @@ class PnrReader : public Facade {
 
   /// Searches; the result bag holds the list of what was found.
   ParameterBag FindElements(const ParameterBag& bag) {
-    return ParameterBag(Call(operations::pnr_reader::kFindElements, {Value(bag.object())}));
+    return ParameterBag(Call(operations::pnr_reader::kFindElements, bag.object()));
   }
   /// The same operation as a typed read of one element: its values go into the same bag.
   void ReadElement(const ParameterBag& bag) { Get(operations::pnr_reader::kFindElements, bag); }
 
  private:
-  std::int16_t Count(const Operation& operation) { return Call(operation, {}).Integer(); }
-  void Get(const Operation& operation, const ParameterBag& bag) {
-    Call(operation, {Value(bag.object())});
-  }
+  std::int16_t Count(const Operation& operation) { return Call(operation).Integer(); }
+  void Get(const Operation& operation, const ParameterBag& bag) { Call(operation, bag.object()); }
 };
 
 class TsmDisplayReader : public Facade {
@@ -109,11 +101,11 @@ class TsmDisplayReader : public Facade {
   explicit TsmDisplayReader(Library& library)
       : Facade(library.Create(operations::tsm_display_reader::kClass)) {}
   std::wstring BuildTQMEntry(const ParameterBag& bag) {
-    return Call(operations::tsm_display_reader::kBuildTQMEntry, {Value(bag.object())}).Text();
+    return Call(operations::tsm_display_reader::kBuildTQMEntry, bag.object()).Text();
   }
   ParameterBag ParseTQMResponse(std::wstring_view response, const ParameterBag& bag) {
-    return ParameterBag(Call(operations::tsm_display_reader::kParseTQMResponse,
-                             {Value(response), Value(bag.object())}));
+    return ParameterBag(
+        Call(operations::tsm_display_reader::kParseTQMResponse, response, bag.object()));
   }
 };
 
@@ -122,16 +114,16 @@ class TstListRequest : public Facade {
   explicit TstListRequest(Library& library)
       : Facade(library.Create(operations::tst_list_request::kClass)) {}
   std::wstring BuildListCommand() {
-    return Call(operations::tst_list_request::kBuildListCommand, {}).Text();
+    return Call(operations::tst_list_request::kBuildListCommand).Text();
   }
   std::wstring BuildPricingCommand() {
-    return Call(operations::tst_list_request::kBuildPricingCommand, {}).Text();
+    return Call(operations::tst_list_request::kBuildPricingCommand).Text();
   }
   std::wstring BuildDisplayCommand(const ParameterBag& bag) {
-    return Call(operations::tst_list_request::kBuildDisplayCommand, {Value(bag.object())}).Text();
+    return Call(operations::tst_list_request::kBuildDisplayCommand, bag.object()).Text();
   }
   ParameterBag ReadResponse(std::wstring_view response) {
-    return ParameterBag(Call(operations::tst_list_request::kReadResponse, {Value(response)}));
+    return ParameterBag(Call(operations::tst_list_request::kReadResponse, response));
   }
 };
 
@@ -141,16 +133,16 @@ class TstDetailRequest : public Facade {
   explicit TstDetailRequest(Library& library)
       : Facade(library.Create(operations::tst_detail_request::kClass)) {}
   void ReadFare(const ParameterBag& bag, std::wstring_view response) {
-    Call(operations::tst_detail_request::kReadFare, {Value(bag.object()), Value(response)});
+    Call(operations::tst_detail_request::kReadFare, bag.object(), response);
   }
   void ReadFareElements(const ParameterBag& bag, std::wstring_view response) {
-    Call(operations::tst_detail_request::kReadFareElements, {Value(bag.object()), Value(response)});
+    Call(operations::tst_detail_request::kReadFareElements, bag.object(), response);
   }
   void ReadGeneral(const ParameterBag& bag, std::wstring_view response) {
-    Call(operations::tst_detail_request::kReadGeneral, {Value(bag.object()), Value(response)});
+    Call(operations::tst_detail_request::kReadGeneral, bag.object(), response);
   }
   void ReadNames(const ParameterBag& bag, std::wstring_view response) {
-    Call(operations::tst_detail_request::kReadNames, {Value(bag.object()), Value(response)});
+    Call(operations::tst_detail_request::kReadNames, bag.object(), response);
   }
 };
 
@@ -160,13 +152,13 @@ class TstUpdateRequest : public Facade {
   explicit TstUpdateRequest(Library& library)
       : Facade(library.Create(operations::tst_update_request::kClass)) {}
   std::wstring BuildFareEntry(const ParameterBag& bag) {
-    return Call(operations::tst_update_request::kBuildFareEntry, {Value(bag.object())}).Text();
+    return Call(operations::tst_update_request::kBuildFareEntry, bag.object()).Text();
   }
   std::wstring BuildValidityEntry(const ParameterBag& bag) {
-    return Call(operations::tst_update_request::kBuildValidityEntry, {Value(bag.object())}).Text();
+    return Call(operations::tst_update_request::kBuildValidityEntry, bag.object()).Text();
   }
   std::wstring BuildTSTEntry(const ParameterBag& bag) {
-    return Call(operations::tst_update_request::kBuildTSTEntry, {Value(bag.object())}).Text();
+    return Call(operations::tst_update_request::kBuildTSTEntry, bag.object()).Text();
   }
 };
 
@@ -176,10 +168,10 @@ class PnrElementChange : public Facade {
       : Facade(library.Create(operations::pnr_element_change::kClass)) {}
   /// The command text of the change; sends nothing.
   std::wstring Execute(const ParameterBag& bag) {
-    return Call(operations::pnr_element_change::kExecute, {Value(bag.object())}).Text();
+    return Call(operations::pnr_element_change::kExecute, bag.object()).Text();
   }
   ParameterBag ReadResponse(std::wstring_view response) {
-    return ParameterBag(Call(operations::pnr_element_change::kReadResponse, {Value(response)}));
+    return ParameterBag(Call(operations::pnr_element_change::kReadResponse, response));
   }
 };
 
@@ -189,9 +181,7 @@ class PnrElementBuilder : public Facade {
   PnrElementBuilder(Library& library, const Operation& execute)
       : Facade(library.Create(execute.object)), execute_(execute) {}
   /// The finished element text; sends nothing.
-  std::wstring Execute(const ParameterBag& bag) {
-    return Call(execute_, {Value(bag.object())}).Text();
-  }
+  std::wstring Execute(const ParameterBag& bag) { return Call(execute_, bag.object()).Text(); }
 
  private:
   const Operation& execute_;
@@ -202,7 +192,7 @@ class PnrElementEntry : public Facade {
   explicit PnrElementEntry(Library& library)
       : Facade(library.Create(operations::pnr_element_entry::kClass)) {}
   ParameterBag ReadResponse(std::wstring_view response) {
-    return ParameterBag(Call(operations::pnr_element_entry::kReadResponse, {Value(response)}));
+    return ParameterBag(Call(operations::pnr_element_entry::kReadResponse, response));
   }
 };
 
@@ -212,7 +202,7 @@ class RemarkDivider : public Facade {
       : Facade(library.Create(operations::remark_divider::kClass)) {}
   /// The pieces, each of which fits one RM element.
   TextArray Divide(std::wstring_view text) {
-    return TextsOf(Call(operations::remark_divider::kDivide, {Value(text)}));
+    return TextsOf(Call(operations::remark_divider::kDivide, text));
   }
 };
 
@@ -221,10 +211,10 @@ class PrintRequest : public Facade {
   explicit PrintRequest(Library& library)
       : Facade(library.Create(operations::print_request::kClass)) {}
   std::wstring Execute(const ParameterBag& bag) {
-    return Call(operations::print_request::kExecute, {Value(bag.object())}).Text();
+    return Call(operations::print_request::kExecute, bag.object()).Text();
   }
   ParameterBag ReadResponse(std::wstring_view response) {
-    return ParameterBag(Call(operations::print_request::kReadResponse, {Value(response)}));
+    return ParameterBag(Call(operations::print_request::kReadResponse, response));
   }
 };
 
@@ -233,7 +223,7 @@ class BackOfficeRequest : public Facade {
   explicit BackOfficeRequest(Library& library)
       : Facade(library.Create(operations::back_office_request::kClass)) {}
   std::wstring Execute(const ParameterBag& bag) {
-    return Call(operations::back_office_request::kExecute, {Value(bag.object())}).Text();
+    return Call(operations::back_office_request::kExecute, bag.object()).Text();
   }
 };
 

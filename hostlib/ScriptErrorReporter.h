@@ -17,21 +17,19 @@ class ScriptErrorReporter : public Facade {
   bool IsThere() const { return object_ != nullptr; }
 
   std::wstring LastErrorText() {
-    return Call(operations::script_error_reporter::kLastErrorText, {}).Text();
+    return Call(operations::script_error_reporter::kLastErrorText).Text();
   }
   /// 0 when no library call failed.
   std::int32_t LastErrorNumber() {
-    return Call(operations::script_error_reporter::kLastErrorNumber, {}).Long();
+    return Call(operations::script_error_reporter::kLastErrorNumber).Long();
   }
   /// Shows the library's own last error.
-  void ReportLastError() { Call(operations::script_error_reporter::kReportLastError, {}); }
+  void ReportLastError() { Call(operations::script_error_reporter::kReportLastError); }
   void ShowMessage(std::int32_t number, std::wstring_view title, std::wstring_view text) {
-    Call(operations::script_error_reporter::kShowMessage,
-         {Value(number), Value(title), Value(text)});
+    Call(operations::script_error_reporter::kShowMessage, number, title, text);
   }
   void ShowError(std::int32_t number, std::wstring_view title, std::wstring_view text, int style) {
-    Call(operations::script_error_reporter::kShowError,
-         {Value(number), Value(title), Value(text), Value(style)});
+    Call(operations::script_error_reporter::kShowError, number, title, text, style);
   }
 };
 

@@ -16,28 +16,26 @@ class ScriptGlobal : public Facade {
 
   /// `number` counts from 1; "" past the last field.
   std::wstring GetField(std::wstring_view text, int number, std::wstring_view delimiter) {
-    return Use(operations::script_global::kGetField, {Value(text), Value(number), Value(delimiter)})
-        .Text();
+    return Use(operations::script_global::kGetField, text, number, delimiter).Text();
   }
   std::wstring HostDateToText(std::wstring_view hostDate) {
-    return Use(operations::script_global::kHostDateToText, {Value(hostDate)}).Text();
+    return Use(operations::script_global::kHostDateToText, hostDate).Text();
   }
   std::wstring TextToHostDate(std::wstring_view date) {
-    return Use(operations::script_global::kTextToHostDate, {Value(date)}).Text();
+    return Use(operations::script_global::kTextToHostDate, date).Text();
   }
-  std::wstring ToText(const Value& value) {
-    return Use(operations::script_global::kToText, {value}).Text();
+  std::wstring ToText(Value value) {
+    return Use(operations::script_global::kToText, std::move(value)).Text();
   }
-  bool ToBoolean(const Value& value) {
-    return Use(operations::script_global::kToBoolean, {value}).Flag();
+  bool ToBoolean(Value value) {
+    return Use(operations::script_global::kToBoolean, std::move(value)).Flag();
   }
   /// True when the run must end at once.
   bool Attach(const ObjectPtr& progressForm, const ObjectPtr& application) {
-    return Use(operations::script_global::kAttach, {Value(progressForm), Value(application)})
-        .Flag();
+    return Use(operations::script_global::kAttach, progressForm, application).Flag();
   }
   std::wstring FormatAssociation(std::wstring_view elementNumbers) {
-    return Use(operations::script_global::kFormatAssociation, {Value(elementNumbers)}).Text();
+    return Use(operations::script_global::kFormatAssociation, elementNumbers).Text();
   }
 
   /// A key's value as the convention reads it: GetValue, then ToText or ToBoolean.
@@ -49,9 +47,10 @@ class ScriptGlobal : public Facade {
   }
 
  private:
-  Value Use(const Operation& operation, const Arguments& arguments) {
+  template <typename... Values>
+  Value Use(const Operation& operation, Values&&... values) {
     Create();
-    return Call(operation, arguments);
+    return Call(operation, std::forward<Values>(values)...);
   }
 
   Library& library_;

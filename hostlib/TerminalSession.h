@@ -18,19 +18,19 @@ class TerminalSession : public Facade {
   void Release() { object_ = nullptr; }
   bool IsConnected() const { return object_ != nullptr; }
 
-  void LoadPNR() { Call(operations::terminal_session::kLoadPNR, {}); }
+  void LoadPNR() { Call(operations::terminal_session::kLoadPNR); }
   std::wstring SendCommand(std::wstring_view command) {
-    return Call(operations::terminal_session::kSendCommand, {Value(command)}).Text();
+    return Call(operations::terminal_session::kSendCommand, command).Text();
   }
   std::wstring SendEntry(std::wstring_view command) {
-    return Call(operations::terminal_session::kSendEntry, {Value(command)}).Text();
+    return Call(operations::terminal_session::kSendEntry, command).Text();
   }
   std::wstring SendDisplay(std::wstring_view command) {
-    return Call(operations::terminal_session::kSendDisplay, {Value(command)}).Text();
+    return Call(operations::terminal_session::kSendDisplay, command).Text();
   }
-  std::wstring SessionText() { return Call(operations::terminal_session::kSessionText, {}).Text(); }
+  std::wstring SessionText() { return Call(operations::terminal_session::kSessionText).Text(); }
   bool SendEntryChecked(std::wstring_view entry) {
-    return Call(operations::terminal_session::kSendEntryChecked, {Value(entry)}).Flag();
+    return Call(operations::terminal_session::kSendEntryChecked, entry).Flag();
   }
 
   /// A single command by the operation that its length asks for.

@@ -40,15 +40,10 @@ std::wstring Rows(const Array<T>& array) {
 }
 
 template <typename ArrayKind>
-ArrayKind RowsOf(const Value& value, std::wstring_view wanted) {
+ArrayKind RowsOf(Value value, std::wstring_view wanted) {
+  if (value.IsObject()) value = value.AsObject()->Call(kDefaultMember, {});
   if (value.IsEmpty()) return {};
-  if (const auto* array = value.If<ArrayKind>()) return *array;
-  if (value.IsObject()) {
-    const Value content = value.AsObject()->Call(kDefaultMember, {});
-    if (const auto* array = content.If<ArrayKind>()) return *array;
-    if (content.IsEmpty()) return {};
-    Mismatch(content, wanted);
-  }
+  if (auto* array = value.If<ArrayKind>()) return std::move(*array);
   Mismatch(value, wanted);
 }
 
@@ -59,9 +54,11 @@ bool Value::IsArray() const {
          If<DoubleArray>() != nullptr;
 }
 
-std::wstring Value::Text() const {
+std::wstring Value::Text() const& { return Value(*this).Text(); }
+
+std::wstring Value::Text() && {
   if (IsEmpty()) return {};
-  if (const auto* text = If<std::wstring>()) return *text;
+  if (auto* text = If<std::wstring>()) return std::move(*text);
   Mismatch(*this, L"a text");
 }
 
@@ -112,14 +109,14 @@ std::wstring Describe(const Value& value) {
   return L"<" + std::wstring((*object)->ClassName()) + L">";
 }
 
-TextArray TextsOf(const Value& value) { return RowsOf<TextArray>(value, L"an array of texts"); }
+TextArray TextsOf(Value value) { return RowsOf<TextArray>(std::move(value), L"an array of texts"); }
 
-IntegerArray IntegersOf(const Value& value) {
-  return RowsOf<IntegerArray>(value, L"an array of integers");
+IntegerArray IntegersOf(Value value) {
+  return RowsOf<IntegerArray>(std::move(value), L"an array of integers");
 }
 
-DoubleArray DoublesOf(const Value& value) {
-  return RowsOf<DoubleArray>(value, L"an array of doubles");
+DoubleArray DoublesOf(Value value) {
+  return RowsOf<DoubleArray>(std::move(value), L"an array of doubles");
 }
 
 void LibraryError::Locate(std::wstring_view object, std::wstring_view operation) {

@@ -65,12 +65,17 @@ class Value {
   const T* If() const {
     return std::get_if<T>(&content_);
   }
+  template <typename T>
+  T* If() {
+    return std::get_if<T>(&content_);
+  }
 
   // The typed readers below convert nothing but an empty value; any other kind than the asked one
   // throws common::RunTimeError ("Type mismatch: ...").
 
   /// "" for an empty value.
-  std::wstring Text() const;
+  std::wstring Text() const&;
+  std::wstring Text() &&;
   /// False for an empty value.
   bool Flag() const;
   /// Either integer width, or a text or double that converts; an empty value and an empty text are

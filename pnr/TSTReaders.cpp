@@ -74,6 +74,8 @@ TSTReaders::TSTReaders(hostlib::Library& library, hostlib::ScriptGlobal& global,
 void TSTReaders::GetNameInformation(tst::TSTInfo& tst) {
   errors_.Run(procedures::kNames, [&] {
     tst.intNoNames = 0;
+    // Once for all names of the PNR that are sought in it.
+    const std::wstring namesOfTST = common::UpperCase(tst.strNames);
     PnrReader reader(library_);
     const int count = reader.CountNameElements();
     for (int i = 0; i < count; ++i) {
@@ -81,7 +83,8 @@ void TSTReaders::GetNameInformation(tst::TSTInfo& tst) {
       reader.GetNameElement(bag);
       const std::wstring name = global_.TextIn(bag, L"strKeyElement");
       if (!tst.blnInf) {
-        CountAdult(bag, WithoutInfant(name), tst);
+        const std::wstring adult = WithoutInfant(name);
+        if (common::Contains(namesOfTST, common::UpperCase(adult))) CountAdult(bag, adult, tst);
       } else if (common::InStrAnyCase(name, L"(INF") > 0) {
         CountInfant(bag, tst);
       }
@@ -100,7 +103,6 @@ void TSTReaders::CountInfant(const ParameterBag& bag, tst::TSTInfo& tst) {
 }
 
 void TSTReaders::CountAdult(const ParameterBag& bag, const std::wstring& name, tst::TSTInfo& tst) {
-  if (common::InStrAnyCase(tst.strNames, name) == 0) return;
   // Drops a one-digit element number and its point; a two-digit number leaves its point in front.
   const std::wstring listed = common::Mid(name, 3);
   if (mco_.strFirstName.empty()) mco_.strFirstName = listed;

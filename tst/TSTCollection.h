@@ -11,13 +11,13 @@ namespace tst {
 class TSTCollection {
  public:
   /// A second record under the same number is a RunTimeError.
-  void Add(const TSTInfo& record) {
+  void Add(TSTInfo record) {
     for (const TSTInfo& held : records_) {
       if (held.strTSTNum == record.strTSTNum) {
         throw common::RunTimeError(L"TST " + record.strTSTNum + L" has been read already");
       }
     }
-    records_.push_back(record);
+    records_.push_back(std::move(record));
   }
 
   bool IsEmpty() const { return records_.empty(); }

@@ -37,7 +37,7 @@ void TSTDetailReader::ReadCurrentTST(std::wstring_view responseText) {
     AddToFirstOrLaterTotal();
     services_.sums.AddTSTValues();
     if (stop_.isSet) return;
-    records_.tsts.Add(tst);
+    records_.tsts.Add(std::move(tst));
   });
 }
 

@@ -114,7 +114,8 @@ class frmPTA : public Form {
   void OfficeIDChanged();
   void OKClicked();
   void Cancel();
-  void ShowF1(Control& control, std::wstring_view text);
+  void ShowStatus(const Control& control);
+  void ShowF1(Control& control);
   /// Empty when every field is complete.
   std::wstring IncompleteFields() const;
 

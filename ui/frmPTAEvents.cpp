@@ -56,22 +56,23 @@ void BindTyping(const TypingRule& rule, Desktop& desktop) {
 
 void frmPTA::BindHelp() {
   for (Control* control : controls()) {
-    if (const HelpDefinition* help = FindHelp(control->name())) {
-      control->onGotFocus = [this, help] { staStatusText.SetText(help->status); };
-      if (!help->f1.empty()) {
-        control->onKeyDown = [this, control, help](int key) {
-          if (key == kF1) ShowF1(*control, help->f1);
-        };
-      }
-    } else {
-      control->onGotFocus = [this] { staStatusText.SetText(IncompleteFields()); };
-    }
+    control->onGotFocus = [this, control] { ShowStatus(*control); };
     control->onLostFocus = [this] { staStatusText.SetText(L""); };
+    control->onKeyDown = [this, control](int key) {
+      if (key == kF1) ShowF1(*control);
+    };
   }
 }
 
-void frmPTA::ShowF1(Control& control, std::wstring_view text) {
-  desktop_.ShowBox(text, common::kPlain, common::kTitle);
+void frmPTA::ShowStatus(const Control& control) {
+  const HelpDefinition* help = FindHelp(control.name());
+  staStatusText.SetText(help == nullptr ? IncompleteFields() : std::wstring(help->status));
+}
+
+void frmPTA::ShowF1(Control& control) {
+  const HelpDefinition* help = FindHelp(control.name());
+  if (help == nullptr || help->f1.empty()) return;
+  desktop_.ShowBox(help->f1, common::kPlain, common::kTitle);
   control.SetFocus();
 }
 
