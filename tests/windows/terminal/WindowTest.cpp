@@ -106,6 +106,17 @@ TEST_F(TerminalWindow, TheSessionIsLostOnDemandAndBackAgain) {
   EXPECT_THAT(Send(L"RT"), HasSubstr(L"SMITH/JOHN MR"));
 }
 
+TEST_F(TerminalWindow, TheMenuHasTheBookingsFromEasyToHard) {
+  const auto choose = [this](int place) {
+    const int command = static_cast<int>(Command::kFirstBooking) + place;
+    Choose(static_cast<Command>(command));
+  };
+  choose(1);
+  EXPECT_TRUE(Says(L"Booking: first-day   |"));
+  choose(0);
+  EXPECT_TRUE(Says(L"Booking: ordinary   |"));
+}
+
 TEST_F(TerminalWindow, ASecondStartShowsTheRunningOneAndOpensItsBookingThere) {
   EXPECT_EQ(terminal::Process(terminal::Program(), L"document-on-its-way").Wait(), 0U);
   EXPECT_THAT(Status(), HasSubstr(L"Booking: document-on-its-way"));
