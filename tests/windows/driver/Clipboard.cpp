@@ -8,17 +8,9 @@
 
 namespace driver {
 
-void PutOnClipboard(const std::wstring& text) {
-  const SIZE_T bytes = (text.size() + 1) * sizeof(wchar_t);
-  const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, bytes);
-  std::memcpy(GlobalLock(memory), text.c_str(), bytes);
-  GlobalUnlock(memory);
-  WaitUntil(L"the clipboard is free", [] { return OpenClipboard(nullptr) != FALSE; });
-  EmptyClipboard();
-  SetClipboardData(CF_UNICODETEXT, memory);
-  CloseClipboard();
-}
+namespace {
 
+/// "" when there is no text on it, or another program has it open.
 std::wstring TextOnClipboard() {
   std::wstring text;
   if (!OpenClipboard(nullptr)) return text;
@@ -30,6 +22,26 @@ std::wstring TextOnClipboard() {
   }
   CloseClipboard();
   return text;
+}
+
+}  // namespace
+
+void PutOnClipboard(const std::wstring& text) {
+  const SIZE_T bytes = (text.size() + 1) * sizeof(wchar_t);
+  const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, bytes);
+  std::memcpy(GlobalLock(memory), text.c_str(), bytes);
+  GlobalUnlock(memory);
+  WaitUntil(L"the clipboard is free", [] { return OpenClipboard(nullptr) != FALSE; });
+  EmptyClipboard();
+  SetClipboardData(CF_UNICODETEXT, memory);
+  CloseClipboard();
+}
+
+void WaitForCopied(const std::wstring& text, const std::function<void()>& copies) {
+  const DWORD before = GetClipboardSequenceNumber();
+  copies();
+  WaitUntil(L"something is copied", [&] { return GetClipboardSequenceNumber() != before; });
+  WaitUntil(L"\"" + text + L"\" is copied", [&] { return TextOnClipboard() == text; });
 }
 
 }  // namespace driver
