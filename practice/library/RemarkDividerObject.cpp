@@ -39,7 +39,9 @@ std::size_t CutAt(const std::wstring& text, std::size_t room) {
 TextArray Divide(std::wstring text) {
   const Frame frame = TakeFrame(text);
   const std::size_t taken = frame.before.size() + frame.after.size();
-  const std::size_t room = taken < kLongestRemark ? kLongestRemark - taken : 1;
+  // Pieces without any of the text would never come to an end.
+  if (taken >= kLongestRemark) RaiseFailure(kNoRoom, L"The association leaves the remark no room");
+  const std::size_t room = kLongestRemark - taken;
   TextArray pieces;
   do {
     const std::size_t cut = CutAt(text, room);

@@ -16,6 +16,7 @@ inline constexpr auto kNoPnr = static_cast<std::int32_t>(0x80040905);
 inline constexpr auto kNoElement = static_cast<std::int32_t>(0x80040906);
 inline constexpr auto kNoDisplay = static_cast<std::int32_t>(0x80040907);
 inline constexpr auto kNotWritten = static_cast<std::int32_t>(0x80040908);
+inline constexpr auto kNoRoom = static_cast<std::int32_t>(0x80040909);
 inline constexpr auto kNoClass = static_cast<std::int32_t>(0x80040154);
 
 [[noreturn]] inline void RaiseFailure(std::int32_t number, std::wstring text) {

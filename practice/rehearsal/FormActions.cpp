@@ -12,7 +12,15 @@ namespace {
 constexpr int kF1 = 112;
 
 [[noreturn]] void Fail(const ui::Control& control, const std::wstring& reason) {
-  throw common::RunTimeError(control.name() + L" " + reason);
+  throw ActionRefused(control.name() + L" " + reason);
+}
+
+int NumberIn(const ui::Control& control, const std::wstring& words) {
+  try {
+    return common::ToInteger(words);
+  } catch (const common::RunTimeError&) {
+    Fail(control, L"is not told a number but \"" + words + L"\"");
+  }
 }
 
 // A key replaces the selection and leaves the caret behind it.
@@ -49,7 +57,7 @@ template <typename Kind>
 Kind& FormActions::Find(const std::wstring& name) const {
   ui::Control* control = form_.Find(name);
   if (control == nullptr) {
-    throw common::RunTimeError(form_.name() + L" has no control " + name);
+    throw ActionRefused(form_.name() + L" has no control " + name);
   }
   auto* wanted = dynamic_cast<Kind*>(control);
   if (wanted == nullptr) Fail(*control, L"is another kind of control");
@@ -73,7 +81,7 @@ void FormActions::Perform(const AgentLine& line) {
       {L"close", [&] { form_.OnCloseBox(); }}};
   const auto found = actions.find(line.verb);
   if (found == actions.end()) {
-    throw common::RunTimeError(L"\"" + line.verb + L"\" is nothing to do in " + form_.name());
+    throw ActionRefused(L"\"" + line.verb + L"\" is nothing to do in " + form_.name());
   }
   found->second();
 }
@@ -123,7 +131,7 @@ void FormActions::Pick(ui::ListBox& list, const std::wstring& lines) {
   std::vector<bool> selected(list.Items().size());
   for (std::size_t from = 0; from < lines.size();) {
     const std::size_t end = std::min(lines.find(L',', from), lines.size());
-    const int number = common::ToInteger(lines.substr(from, end - from));
+    const int number = NumberIn(list, lines.substr(from, end - from));
     if (number < 1 || number > list.Count()) Fail(list, L"has no line " + std::to_wstring(number));
     selected[static_cast<std::size_t>(number) - 1] = true;
     from = end + 1;
@@ -132,7 +140,7 @@ void FormActions::Pick(ui::ListBox& list, const std::wstring& lines) {
 }
 
 void FormActions::Tick(ui::Timer& timer, const std::wstring& times) {
-  for (int left = times.empty() ? 1 : common::ToInteger(times); left > 0; --left) {
+  for (int left = times.empty() ? 1 : NumberIn(timer, times); left > 0; --left) {
     if (timer.Interval() == 0 || !form_.IsVisible()) Fail(timer, L"does not run");
     timer.Ticked();
   }

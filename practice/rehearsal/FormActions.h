@@ -1,13 +1,19 @@
 #pragma once
 
+#include "common/RunTimeError.h"
 #include "practice/rehearsal/AgentScript.h"
 #include "ui/controls/Form.h"
 
 namespace practice {
 
+/// The form does not let the agent do something, or does not show what the agent expects.
+class ActionRefused : public common::RunTimeError {
+ public:
+  using RunTimeError::RunTimeError;
+};
+
 /// What an agent does in a form and reads there, as keys and clicks would do it. Each throws
-/// common::RunTimeError with the reason when the form does not let the agent do it, or when it
-/// does not show what the agent expects.
+/// ActionRefused with the reason; what the program itself throws under an action comes through.
 class FormActions {
  public:
   explicit FormActions(ui::Form& form) : form_(form) {}

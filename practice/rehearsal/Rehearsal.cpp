@@ -61,16 +61,57 @@ std::wstring OneLine(const std::wstring& text) {
   return common::Replace(common::Replace(text, L"\r", L"\\r"), L"\n", L"\\n");
 }
 
-// Runs the program; what the agent does not agree with becomes the outcome's.
-void Perform(hostlib::Library& library, ScriptedAgent& agent, const platform::Platform& platform,
-             RehearsalOutcome& outcome) {
-  try {
-    outcome.exitCode = app::RunProgram(library, agent, platform);
-    agent.Leave();
-  } catch (const Disagreement& disagreement) {
-    outcome.disagreement = disagreement.words;
+/// Everything around one run, and what it leaves behind.
+class Stage {
+ public:
+  Stage(const RehearsalScene& scene, ui::Desktop& desktop)
+      : platform_(PlatformOf(scene)),
+        userValues_(scene, platform_),
+        ini_(scene.hasIni ? scene.ini : std::wstring()),
+        desktop_(desktop),
+        library_({host_, platform_, ini_, userValues_, desktop},
+                 {scene.attachRefused, scene.sessionRunning}),
+        recorded_(library_, recorder_),
+        plain_(scene.recordCalls ? static_cast<hostlib::Library&>(recorded_) : library_) {
+    host_.LoadBooking(scene.booking);
+    if (scene.prepare) scene.prepare(host_);
+    outcome_.pnrBefore = host_.PnrText();
+    host_.listener = [this](std::wstring_view entry, std::wstring_view answer) {
+      outcome_.entries.push_back({std::wstring(entry), std::wstring(answer)});
+    };
+    if (scene.decorate) decorated_ = scene.decorate(plain_);
   }
-}
+
+  void Run() {
+    hostlib::Library& library = decorated_ ? *decorated_ : plain_;
+    outcome_.exitCode = app::RunProgram(library, desktop_, platform_);
+  }
+
+  RehearsalOutcome Outcome() {
+    for (const std::wstring& line : recorder_.lines()) outcome_.calls.push_back(OneLine(line));
+    outcome_.pnrAfter = host_.PnrText();
+    outcome_.iniAfter = ini_.text();
+    outcome_.officeAfter = userValues_.OfficeID();
+    outcome_.officeDateAfter = userValues_.Date();
+    outcome_.printed = host_.Printed();
+    outcome_.sentToBackOffice = host_.SentToBackOffice();
+    outcome_.liveObjects = library_.LiveObjects();
+    return std::move(outcome_);
+  }
+
+ private:
+  platform::FixedPlatform platform_;
+  OfficeOfTheUser userValues_;
+  IniOfTheScene ini_;
+  Host host_;
+  ui::Desktop& desktop_;
+  PracticeLibrary library_;
+  hostlib::Recorder recorder_;
+  hostlib::InterposedLibrary recorded_;
+  hostlib::Library& plain_;  ///< what a decorator, if any, stands before
+  std::unique_ptr<hostlib::Library> decorated_;
+  RehearsalOutcome outcome_;
+};
 
 }  // namespace
 
@@ -81,38 +122,25 @@ std::vector<std::wstring> RehearsalOutcome::EntryTexts() const {
 }
 
 RehearsalOutcome Rehearse(const RehearsalScene& scene) {
-  RehearsalOutcome outcome;
-  const platform::FixedPlatform platform = PlatformOf(scene);
-  OfficeOfTheUser userValues(scene, platform);
-  IniOfTheScene ini(scene.hasIni ? scene.ini : std::wstring());
   ScriptedAgent agent(ReadAgentScript(scene.agent));
-
-  Host host;
-  host.LoadBooking(scene.booking);
-  if (scene.prepare) scene.prepare(host);
-  outcome.pnrBefore = host.PnrText();
-  host.listener = [&outcome](std::wstring_view entry, std::wstring_view answer) {
-    outcome.entries.push_back({std::wstring(entry), std::wstring(answer)});
-  };
-
-  PracticeLibrary practiceLibrary({host, platform, ini, userValues, agent},
-                                  {scene.attachRefused, scene.sessionRunning});
-  hostlib::Recorder recorder;
-  hostlib::InterposedLibrary recorded(practiceLibrary, recorder);
-  const std::unique_ptr<hostlib::Library> decorated =
-      scene.decorate ? scene.decorate(recorded) : nullptr;
-  Perform(decorated ? *decorated : static_cast<hostlib::Library&>(recorded), agent, platform,
-          outcome);
-
-  for (const std::wstring& line : recorder.lines()) outcome.calls.push_back(OneLine(line));
+  Stage stage(scene, agent);
+  std::wstring disagreement;
+  try {
+    stage.Run();
+    agent.Leave();
+  } catch (const Disagreement& found) {
+    disagreement = found.words;
+  }
+  RehearsalOutcome outcome = stage.Outcome();
+  outcome.disagreement = std::move(disagreement);
   outcome.seen = agent.seen();
-  outcome.pnrAfter = host.PnrText();
-  outcome.iniAfter = ini.text();
-  outcome.officeAfter = userValues.OfficeID();
-  outcome.officeDateAfter = userValues.Date();
-  outcome.printed = host.Printed();
-  outcome.liveObjects = practiceLibrary.LiveObjects();
   return outcome;
+}
+
+RehearsalOutcome Rehearse(const RehearsalScene& scene, ui::Desktop& desktop) {
+  Stage stage(scene, desktop);
+  stage.Run();
+  return stage.Outcome();
 }
 
 }  // namespace practice

@@ -9,6 +9,7 @@
 
 #include "hostlib/Object.h"
 #include "practice/host/Host.h"
+#include "ui/controls/Desktop.h"
 
 namespace practice {
 
@@ -27,6 +28,7 @@ struct RehearsalScene {
   std::string decimal = ",";
   bool attachRefused = false;
   bool sessionRunning = true;
+  bool recordCalls = true;  ///< without it the outcome names no library calls
   /// Sees the host, with the booking loaded, before the run starts; may tell it to misbehave.
   std::function<void(Host&)> prepare;
   /// Stands between the program and the library, when given.
@@ -50,6 +52,7 @@ struct RehearsalOutcome {
   std::wstring officeAfter;      ///< the user's stored office
   std::wstring officeDateAfter;  ///< and its date
   std::vector<std::wstring> printed;
+  std::vector<std::wstring> sentToBackOffice;
   int liveObjects = 0;  ///< library objects not released
 
   /// The entries alone.
@@ -59,5 +62,8 @@ struct RehearsalOutcome {
 /// Runs the whole program, without a window, against a booking with a written agent. Throws
 /// BookingError or AgentScriptError for a scene that cannot be set.
 RehearsalOutcome Rehearse(const RehearsalScene& scene);
+/// The same with whoever sits at `desktop`; the scene's agent is not looked at, and the outcome
+/// says nothing of what was seen.
+RehearsalOutcome Rehearse(const RehearsalScene& scene, ui::Desktop& desktop);
 
 }  // namespace practice

@@ -96,7 +96,7 @@ void ScriptedAgent::Act(ui::Form& form, const AgentLine& line) {
   ++at_;
   try {
     FormActions(form).Perform(line);
-  } catch (const common::RunTimeError& error) {
+  } catch (const ActionRefused& error) {
     throw Disagreement{L"line " + std::to_wstring(line.number) + L": " + error.description()};
   }
 }

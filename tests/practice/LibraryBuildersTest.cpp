@@ -103,6 +103,13 @@ TEST_F(LibraryObjects, ALongWordIsCutWhereThePieceEnds) {
   EXPECT_THAT(pieces.items, ElementsAre(L"RM " + std::wstring(121, L'A'), L"RM AAAAAAAAA"));
 }
 
+TEST_F(LibraryObjects, ALongRemarkWhoseAssociationLeavesItNoRoomIsAFailure) {
+  hostlib::RemarkDivider divider(bench.library);
+  const std::wstring association = L" [P" + std::wstring(116, L'1') + L"]";
+  EXPECT_EQ(divider.Divide(L"RM AB" + association).items.size(), 2u);
+  EXPECT_THROW(divider.Divide(L"RM A [P" + std::wstring(117, L'1') + L"]"), hostlib::LibraryError);
+}
+
 TEST_F(LibraryObjects, AShortRemarkIsOnePiece) {
   EXPECT_THAT(hostlib::RemarkDivider(bench.library).Divide(L"RM A B").items,
               ElementsAre(L"RM A B"));

@@ -116,6 +116,21 @@ TEST(ScriptedAgent, DisagreesWhenABoxHasNoCancel) {
   EXPECT_THROW(agent.ShowBox(L"Go on?", 48, L""), Disagreement);
 }
 
+TEST(ScriptedAgent, LeavesAFailureOfTheProgramUnderAnActionToTheProgram) {
+  TestForm form;
+  form.tmrWait.SetInterval(5000);
+  form.tmrWait.onTimer = [] { throw common::RunTimeError(L"of the program"); };
+  EXPECT_THROW(DisagreementOf(L"form frmTest\ntick tmrWait", form), common::RunTimeError);
+  form.Detach();
+}
+
+TEST(ScriptedAgent, DisagreesWithATextWhereANumberIsWanted) {
+  TestForm form;
+  form.lstTST.Add(L"one");
+  EXPECT_EQ(DisagreementOf(L"form frmTest\npick lstTST x", form),
+            L"line 2: lstTST is not told a number but \"x\"");
+}
+
 TEST(ScriptedAgent, CannotActWhileInputIsShut) {
   TestForm form;
   ScriptedAgent agent(ReadAgentScript(L"form frmTest\nclick cmdOK"));

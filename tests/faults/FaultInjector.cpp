@@ -1,0 +1,137 @@
+#include "tests/faults/FaultInjector.h"
+
+#include "common/ConstDefintions.h"
+
+namespace faults {
+
+using hostlib::CallInfo;
+using hostlib::LibraryError;
+using hostlib::Value;
+namespace reporter = hostlib::operations::script_error_reporter;
+namespace session = hostlib::operations::terminal_session;
+
+namespace {
+
+constexpr std::int32_t kFaultNumber = 4711;
+constexpr auto kServerGone = static_cast<std::int32_t>(0x800706BA);
+
+bool IsEntry(const CallInfo& call) {
+  return call.object == session::kClass && call.slot != session::kSessionText.slot;
+}
+
+std::wstring EntryOf(const CallInfo& call) {
+  return call.arguments.empty() ? L"RT" : call.arguments[0].Text();
+}
+
+CallSite SiteOf(const CallInfo& call) {
+  CallSite site;
+  site.name = std::wstring(call.object) + L"." +
+              std::wstring(call.operation == nullptr ? L"(default)" : call.operation->name);
+  site.isSession = call.object == session::kClass;
+  const auto& getValue = hostlib::operations::parameter_bag::kGetValue;
+  site.isBagValue = call.object == getValue.object && call.slot == getValue.slot;
+  if (site.isBagValue) site.name += L" " + call.arguments[0].Text();
+  return site;
+}
+
+}  // namespace
+
+void FaultInjector::BeforeCreation(std::wstring_view className) {
+  CallSite site;
+  site.name = L"new " + std::wstring(className);
+  site.isCreation = true;
+  site.isSession = className == session::kClass;
+  const bool isSession = site.isSession;
+  Note(std::move(site));
+  FailIfDown(className == reporter::kClass, isSession);
+  if (static_cast<int>(sites_.size()) == fault_.place) Strike(nullptr);
+}
+
+Value FaultInjector::OnCall(const CallInfo& call, const std::function<Value()>& proceed) {
+  Note(SiteOf(call));
+  // What stands inside may call on: its places come after.
+  const std::size_t at = sites_.size() - 1;
+  const std::size_t entry = timeline_.size();
+  if (IsEntry(call)) {
+    timeline_.push_back({.kind = Event::Kind::kEntry,
+                         .text = EntryOf(call),
+                         .outcome = Event::Outcome::kBrokeOff,
+                         .afterFault = struck_});
+  }
+  const Value answer = Perform(call, proceed);
+  if (IsEntry(call)) timeline_[entry].outcome = Event::Outcome::kAnswered;
+  // Only an undisturbed run is looked up for what its calls answer.
+  if (fault_.place == 0) {
+    sites_[at].answersObject = answer.IsObject();
+    if (!answer.IsObject()) sites_[at].answer = answer;
+  }
+  return answer;
+}
+
+Value FaultInjector::Perform(const CallInfo& call, const std::function<Value()>& proceed) {
+  const bool strikes = static_cast<int>(sites_.size()) == fault_.place;
+  const bool isReporter = call.object == reporter::kClass;
+  FailIfDown(isReporter, call.object == session::kClass);
+  if (isReporter) return strikes ? Strike(proceed) : Report(call, proceed);
+  lastError_.reset();
+  return strikes ? Strike(proceed) : proceed();
+}
+
+Value FaultInjector::Strike(const std::function<Value()>& proceed) {
+  struck_ = true;
+  switch (fault_.way) {
+    case Way::kErrorWithoutNumber:
+      Fail(false);
+    case Way::kAnswerLost:
+      proceed();
+      Fail(true);
+    case Way::kLibraryGone:
+      throw LibraryError(kServerGone, L"fault", std::wstring(kFaultText),
+                         LibraryError::Outcome::kInterrupted);
+    default:
+      if (IsError(fault_.way)) Fail(true);
+      return Spoilt(fault_.way, proceed());
+  }
+}
+
+// What stays down once the fault has come.
+void FaultInjector::FailIfDown(bool isReporter, bool isSession) {
+  if (!struck_) return;
+  if (fault_.way == Way::kLibraryGone || (isReporter && fault_.way == Way::kErrorAndNoReporter)) {
+    throw LibraryError(kServerGone, L"fault", std::wstring(kFaultText),
+                       LibraryError::Outcome::kNotSent);
+  }
+  const bool lost = fault_.way == Way::kSessionLost || fault_.way == Way::kAnswerLost;
+  if (isSession && lost) Fail(true);
+}
+
+// The reporter tells of the fault as it would of a failure of the library's own.
+Value FaultInjector::Report(const CallInfo& call, const std::function<Value()>& proceed) {
+  if (call.slot == reporter::kLastErrorText.slot) {
+    lastErrorRead_ = true;
+    return lastError_ ? Value(lastError_->text) : proceed();
+  }
+  if (call.slot == reporter::kLastErrorNumber.slot) {
+    return lastError_ ? Value(lastError_->number) : proceed();
+  }
+  const bool reportsLast = call.slot == reporter::kReportLastError.slot;
+  showsLastError_ = reportsLast || lastErrorRead_;
+  lastErrorRead_ = false;
+  Value answer;
+  if (reportsLast && lastError_) {
+    boxes_.ShowBox(lastError_->text, common::kCritical, common::kTitle);
+  } else {
+    answer = proceed();
+  }
+  showsLastError_ = false;
+  return answer;
+}
+
+void FaultInjector::Fail(bool withNumber) {
+  if (withNumber) lastError_ = {kFaultNumber, std::wstring(kFaultText)};
+  throw LibraryError(kFaultNumber, L"fault", std::wstring(kFaultText));
+}
+
+void FaultInjector::Note(CallSite site) { sites_.push_back(std::move(site)); }
+
+}  // namespace faults

@@ -1,0 +1,101 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <chrono>
+#include <iostream>
+#include <set>
+
+#include "common/Text.h"
+#include "tests/faults/Oracle.h"
+
+// Every call of a run fails in every way that it can, and whatever happens: the boxes are those
+// that the rules name, nothing is sent after an end, the entries explain the PNR, nothing is left.
+namespace faults {
+namespace {
+
+constexpr std::size_t kShownComplaints = 20;
+
+std::wstring NameOf(Fault fault, const CallSite& site) {
+  return L"call " + std::to_wstring(fault.place) + L", " + site.name + L", " +
+         std::wstring(NameOf(fault.way)) + L": ";
+}
+
+/// One run with all its faults.
+class Matrix {
+ public:
+  explicit Matrix(const RecordedRun& recorded)
+      : scene_(recorded.scene()), replays_(scene_), undisturbed_(Perform(scene_)) {}
+
+  const Shown& undisturbed() const { return undisturbed_; }
+  Complaints JudgeUndisturbed() { return Judge(replays_, undisturbed_, undisturbed_, {}); }
+
+  void TryAll() {
+    for (std::size_t i = 0; i < undisturbed_.sites.size(); ++i) {
+      for (const Way way : WaysOf(undisturbed_.sites[i])) Try({static_cast<int>(i) + 1, way});
+    }
+  }
+
+  int cases() const { return cases_; }
+  std::size_t ways() const { return ways_.size(); }
+  const Complaints& complaints() const { return complaints_; }
+
+ private:
+  void Try(Fault fault) {
+    const Shown shown = Judged(fault, {});
+    // A question that only the fault brings is answered both ways.
+    const auto asked = std::ranges::find_if(shown.timeline, [](const Event& event) {
+      return event.kind == Event::Kind::kBox && event.afterFault && (event.style & 1) != 0;
+    });
+    if (asked != shown.timeline.end()) Judged(fault, {.question = asked->question});
+  }
+
+  Shown Judged(Fault fault, Cancelling cancelling) {
+    ++cases_;
+    ways_.insert(fault.way);
+    Shown shown = Perform(scene_, fault, cancelling);
+    const CallSite& site = undisturbed_.sites[static_cast<std::size_t>(fault.place) - 1];
+    for (const std::wstring& complaint : Judge(replays_, undisturbed_, shown, fault)) {
+      complaints_.push_back(NameOf(fault, site) + complaint);
+    }
+    return shown;
+  }
+
+  practice::RehearsalScene scene_;
+  Replays replays_;
+  Shown undisturbed_;
+  int cases_ = 0;
+  std::set<Way> ways_;
+  Complaints complaints_;
+};
+
+class FaultMatrix : public testing::TestWithParam<RecordedRun> {};
+
+TEST_P(FaultMatrix, KeepsEveryPromiseWhicheverCallFails) {
+  const auto started = std::chrono::steady_clock::now();
+  Matrix matrix(GetParam());
+  ASSERT_EQ(matrix.JudgeUndisturbed(), Complaints{});
+  matrix.TryAll();
+  const auto took = std::chrono::steady_clock::now() - started;
+  std::cout << "faults injected into " << GetParam().name << ": " << matrix.cases() << " in "
+            << matrix.ways() << " ways at " << matrix.undisturbed().sites.size() << " calls, "
+            << std::chrono::duration_cast<std::chrono::milliseconds>(took).count() << " ms\n";
+  std::wstring shown;
+  for (std::size_t i = 0; i < std::min(kShownComplaints, matrix.complaints().size()); ++i) {
+    shown += L"\n" + matrix.complaints()[i];
+  }
+  EXPECT_TRUE(matrix.complaints().empty())
+      << matrix.complaints().size() << " complaints:" << common::ToUtf8(shown);
+}
+
+TEST(RecordedRuns, HaveEachAnEntryOfTheirOwnInTheTests) {
+  std::string names;
+  for (const RecordedRun& run : RecordedRuns())
+    names += (names.empty() ? "" : ",") + std::string(run.name);
+  EXPECT_EQ(names, PTA_FAULT_RUNS);
+}
+
+INSTANTIATE_TEST_SUITE_P(Runs, FaultMatrix, testing::ValuesIn(RecordedRuns()),
+                         [](const auto& tested) { return std::string(tested.param.name); });
+
+}  // namespace
+}  // namespace faults

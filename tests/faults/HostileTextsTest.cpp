@@ -1,0 +1,100 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+
+#include "common/Text.h"
+#include "tests/run/Scenes.h"
+
+// What the host says is text and nothing else: no format, no path, no command.
+namespace faults {
+namespace {
+
+using run::Lines;
+
+constexpr std::wstring_view kFormats = L"%S%N%1$S%99999D{0}";
+constexpr std::wstring_view kPath = L"..\\..\\";
+
+/// Every source of the product; what the tests and the practice side do is their own business.
+std::vector<std::filesystem::path> ProductSources() {
+  std::vector<std::filesystem::path> sources;
+  for (const char* room : {"app", "common", "errors", "fares", "hostlib", "mco", "platform", "pnr",
+                           "settings", "tst", "ui", "updates"}) {
+    const std::filesystem::path folder = std::filesystem::path(PTA_SOURCE_DIR) / room;
+    for (const auto& file : std::filesystem::recursive_directory_iterator(folder)) {
+      const auto extension = file.path().extension();
+      if (extension == ".cpp" || extension == ".h") sources.push_back(file.path());
+    }
+  }
+  return sources;
+}
+
+TEST(HostileTexts, AreShownInTheDialogAsTheyAre) {
+  auto scene = run::SceneOf("pwct-one-fare");
+  run::Change(scene.booking, L"PWCT OTHER SEGMENTS", L"PWCT " + std::wstring(kFormats));
+  scene.agent = L"form frmPTA\nsee txtPWCT \"" + std::wstring(kFormats) + L"\"\nclick cmdCancel\n";
+  run::RehearseInAgreement(scene);
+}
+
+TEST(HostileTexts, AreShownInAReportAsTheyAre) {
+  auto scene = run::OrdinaryScene();
+  const Lines reading = run::ReadingEntries();
+  const int place = static_cast<int>(std::ranges::find(reading, L"TQM RT") - reading.begin()) + 1;
+  scene.prepare = [place](practice::Host& host) {
+    host.faults.refusals[place] = std::wstring(kFormats);
+  };
+  scene.agent =
+      L"box ok \"Error sending TQM Transaction! REFUSED: " + std::wstring(kFormats) + L"\" 16\n";
+  run::RehearseInAgreement(scene);
+}
+
+TEST(HostileTexts, AreEnteredAsTheyAre) {
+  auto scene = run::OrdinaryScene();
+  run::Change(scene.agent, L"SK AT ARN A/P BEFORE DEPARTURE", kFormats);
+  const auto outcome = run::RehearseInAgreement(scene);
+  EXPECT_TRUE(
+      run::Holds(run::NewElements(outcome), L"RM PWCT " + std::wstring(kFormats) + L" [P1]"))
+      << common::ToUtf8(run::NewElements(outcome).at(2));
+}
+
+TEST(HostileTexts, OfTheOfficeNameASectionAndNeverAFile) {
+  auto scene = run::OrdinaryScene();
+  scene.office = std::wstring(kPath) + L"X";
+  scene.agent = L"form frmPTA\nclick cmdCancel\n";
+  const auto outcome = run::RehearseInAgreement(scene);
+  const Lines reads = run::CallsOf(outcome, L"ProfileStore.1.9");
+  ASSERT_FALSE(reads.empty());
+  for (const std::wstring& read : reads) {
+    EXPECT_TRUE(read.starts_with(L"ProfileStore.1.9 ReadValue(\"C:\\PTA\\PTA_QX.ini\", "))
+        << common::ToUtf8(read);
+  }
+}
+
+// Whatever is printed or scanned goes by a literal of ours.
+bool HasForeignFormat(const std::wstring& code) {
+  for (const std::wstring_view function : {L"printf(", L"scanf("}) {
+    for (std::size_t at = code.find(function); at != code.npos; at = code.find(function, at + 1)) {
+      const std::size_t quote = code.find(L'"', at);
+      if (quote == code.npos || quote > code.find(L';', at)) return true;
+    }
+  }
+  return false;
+}
+
+TEST(HostileTexts, HaveNoWayToACommandOrToAFormatInTheProduct) {
+  EXPECT_TRUE(HasForeignFormat(L"std::printf(answer.c_str());\nstd::puts(\"\");"));
+  const auto sources = ProductSources();
+  ASSERT_GT(sources.size(), 100u);
+  for (const std::filesystem::path& source : sources) {
+    const std::wstring code =
+        run::ReadProjectFile(std::filesystem::relative(source, PTA_SOURCE_DIR).generic_string());
+    EXPECT_FALSE(HasForeignFormat(code)) << source;
+    for (const std::wstring_view command : {L"system(", L"popen(", L"ShellExecute",
+                                            L"CreateProcess", L"WinExec", L"execv", L"execl"}) {
+      EXPECT_FALSE(common::Contains(code, command)) << source << common::ToUtf8(command);
+    }
+  }
+}
+
+}  // namespace
+}  // namespace faults
