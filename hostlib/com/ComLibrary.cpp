@@ -42,7 +42,9 @@ ObjectPtr ComLibrary::Create(std::wstring_view className) {
 HRESULT ComLibrary::MakeObject(std::wstring_view className, ComPtr<IDispatch>& object) {
   const InstalledClass& installed = Find(className);
   if (FAILED(installed.found)) return installed.found;
-  const HRESULT made = source_.Make(installed.id, object);
+  HRESULT made = source_.Make(installed.id, object);
+  // The one that serves objects is about to end because nobody used it: its successor will do.
+  if (made == CO_E_SERVER_STOPPING) made = source_.Make(installed.id, object);
   return SUCCEEDED(made) && object == nullptr ? E_NOINTERFACE : made;
 }
 

@@ -63,6 +63,8 @@ class LibraryCheck {
       notMade_.insert(className);
       return nullptr;
     }
+    // A terminal that only serves objects may end with the last of them, and its types with it.
+    held_.push_back(object);
     return &library_.BindingFor(className, *object.Get());
   }
 
@@ -70,6 +72,7 @@ class LibraryCheck {
   std::span<const Operation> used_;
   std::set<std::wstring_view> notThere_;
   std::set<std::wstring_view> notMade_;
+  std::vector<ComPtr<IDispatch>> held_;
 };
 
 std::wstring Message(const std::vector<std::wstring>& faults) {

@@ -34,6 +34,8 @@ class Desk {
   bool IssueDocument();
   void BehaveWell();
 
+  /// The entries that have arrived so far, the one that waits for its answer included.
+  int EntryCount() const { return host_.EntryCount(); }
   std::wstring PnrText() const { return host_.PnrText(); }
   const std::wstring& transcript() const { return transcript_; }
   const std::wstring& booking() const { return booking_; }

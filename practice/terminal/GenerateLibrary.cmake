@@ -1,12 +1,10 @@
-# Writes VantelPractice.idl and LibraryClasses.inc into the build folder, from Library.cmake.
-set(namespace 9d3f5c0a-7f0e-4b57-9f43-0c6d3d0a4e21)  # names become ids under this one
-set(idl_interfaces "")
-set(idl_classes "")
-set(cpp_interfaces "")
-set(cpp_classes "")
-set(object_name "")
+# generate_library(FOLDER [WITHOUT OPERATION] [WITH_MORE OPERATION]): writes VantelPractice.idl and
+# LibraryClasses.inc into a folder, from Library.cmake. A library that does not fit lacks an
+# operation, the last of its interface, or has one that takes an argument more; OPERATION is
+# OBJECT.NAME.
 
 function(id_of what result)
+  set(namespace 9d3f5c0a-7f0e-4b57-9f43-0c6d3d0a4e21)  # names become ids under this one
   string(UUID id NAMESPACE ${namespace} NAME "${what}" TYPE SHA1)
   set(${result} ${id} PARENT_SCOPE)
 endfunction()
@@ -91,8 +89,15 @@ macro(member_id slot)
 endmacro()
 
 macro(operation slot name arguments)
-  member_id(${slot})
-  write_member(${slot} ${name} ${slot} "id(${member})" "${arguments}" "${ARGN}")
+  set(operation_name ${object_name}.${name})
+  set(taken "${arguments}")
+  if(operation_name STREQUAL GENERATED_WITH_MORE)
+    string(APPEND taken ", long more")
+  endif()
+  if(NOT operation_name STREQUAL GENERATED_WITHOUT)
+    member_id(${slot})
+    write_member(${slot} ${name} ${slot} "id(${member})" "${taken}" "${ARGN}")
+  endif()
 endmacro()
 
 macro(list_items slot name result)
@@ -137,10 +142,15 @@ macro(write_member slot name called attributes arguments result)
   math(EXPR next_slot "${slot} + 1")
 endmacro()
 
-include(${CMAKE_CURRENT_LIST_DIR}/Library.cmake)
-finish_object()
-id_of("library" id)
-file(CONFIGURE OUTPUT ${CMAKE_CURRENT_BINARY_DIR}/VantelPractice.idl CONTENT [[
+function(generate_library folder)
+  cmake_parse_arguments(GENERATED "" "WITHOUT;WITH_MORE" "" ${ARGN})
+  foreach(text idl_interfaces idl_classes cpp_interfaces cpp_classes object_name)
+    set(${text} "")
+  endforeach()
+  include(${CMAKE_CURRENT_FUNCTION_LIST_DIR}/Library.cmake)
+  finish_object()
+  id_of("library" id)
+  file(CONFIGURE OUTPUT ${folder}/VantelPractice.idl CONTENT [[
 import "oaidl.idl";
 
 [uuid(@id@), version(1.0), helpstring("Vantel practice terminal")]
@@ -150,7 +160,8 @@ library VantelPractice
 
 @idl_interfaces@@idl_classes@};
 ]] @ONLY)
-file(CONFIGURE OUTPUT ${CMAKE_CURRENT_BINARY_DIR}/LibraryClasses.inc CONTENT [[
+  file(CONFIGURE OUTPUT ${folder}/LibraryClasses.inc CONTENT [[
 @cpp_interfaces@const LibraryClass kLibraryClasses[] = {
 @cpp_classes@};
 ]] @ONLY)
+endfunction()

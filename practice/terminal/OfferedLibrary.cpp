@@ -41,6 +41,9 @@ class DeskObject : public PracticeObject {
       desk.SlowDown([time] { WaitAlive(time); });
       return Value();
     });
+    OnSlot(15, [&desk](const Arguments&) {
+      return Value(static_cast<std::int32_t>(desk.EntryCount()));
+    });
   }
 };
 

@@ -60,7 +60,6 @@ int Drive(const std::wstring& booking, const std::wstring& path, const std::wstr
   terminal.SlowDown(kMillisecondsAnEntry);
   Print("The PNR before", terminal.PnrText());
   driver::Program program(path);
-  program.TakeBoxesOf(terminal.processId());
   Pictures pictures(folder);
   driver::WindowAgent(program, script).Work([&](HWND window, const std::wstring& name) {
     std::printf("at %s\n", driver::ToUtf8(name).c_str());
@@ -81,8 +80,6 @@ int Drive(int count, wchar_t** arguments) {
     return Drive(arguments[1], arguments[2], arguments[3], count > 4 ? arguments[4] : L"");
   } catch (const common::RunTimeError& error) {
     std::puts(driver::ToUtf8(error.description()).c_str());
-  } catch (const client::Failure& failure) {
-    std::printf("the terminal: %s\n", driver::ToUtf8(failure.text).c_str());
   } catch (const std::exception& error) {
     std::puts(error.what());
   }

@@ -160,5 +160,15 @@ TEST_F(Failures, ATerminalWithMoreRightsIsSaidToBeOutOfReach) {
             L"Start both of them in the same way.");
 }
 
+TEST_F(Failures, AProgramThatIsAboutToEndIsAskedOnceMore) {
+  Install(L"TerminalSession", __uuidof(::TestSession), __uuidof(ISession));
+  source_.stopping = 1;
+  EXPECT_NE(Made(L"TerminalSession"), nullptr);
+  source_.stopping = 2;
+  const auto error = FailureOf([&] { Made(L"TerminalSession"); });
+  EXPECT_EQ(error.number(), CO_E_SERVER_STOPPING);
+  EXPECT_EQ(error.outcome(), Outcome::kNotSent);
+}
+
 }  // namespace
 }  // namespace com_tests

@@ -89,6 +89,19 @@ TEST_F(LibraryCheck, SendsNothingAndMakesOneObjectOfTheLibrary) {
   EXPECT_EQ(source_.made, 1);
 }
 
+TEST_F(LibraryCheck, HoldsTheObjectWhoseTypesItReads) {
+  InstallAll(Types::kGood);
+  const ULONG before = bag_->references();
+  std::vector<ULONG> held;
+  source_.onSearch = [&] {
+    if (source_.made > 0) held.push_back(bag_->references() - before);
+  };
+  CheckUsedOperations(library_, kUsed);
+  ASSERT_FALSE(held.empty());
+  EXPECT_EQ(held, std::vector<ULONG>(held.size(), 1));
+  EXPECT_EQ(bag_->references(), before);
+}
+
 TEST_F(LibraryCheck, LeavesALibraryThatIsNotInstalledToTheRun) {
   EXPECT_NO_THROW(CheckUsedOperations(library_));
 }

@@ -75,6 +75,7 @@ void TestSource::Install(std::wstring_view className, const CLSID& classId,
 
 HRESULT TestSource::FindClass(std::wstring_view progId, CLSID& classId) {
   ++searched;
+  if (onSearch) onSearch();
   for (const Entry& entry : entries_) {
     if (entry.progId != progId) continue;
     classId = entry.classId;
@@ -86,6 +87,7 @@ HRESULT TestSource::FindClass(std::wstring_view progId, CLSID& classId) {
 HRESULT TestSource::Make(const CLSID& classId, ComPtr<IDispatch>& object) {
   for (const Entry& entry : entries_) {
     if (entry.classId != classId) continue;
+    if (stopping-- > 0) return CO_E_SERVER_STOPPING;
     if (const auto failure = failures.find(entry.progId); failure != failures.end()) {
       return failure->second;
     }

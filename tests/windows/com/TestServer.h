@@ -77,6 +77,8 @@ class TestSource : public hostlib::com::ObjectSource {
   void Install(std::wstring_view className, const CLSID& classId, ComPtr<IDispatch> object);
 
   std::map<std::wstring, HRESULT, std::less<>> failures;  ///< by ProgID, when made
+  int stopping = 0;  ///< so many times the program that makes objects is about to end
+  std::function<void()> onSearch;
   bool isOutOfReach = false;
   int made = 0;
   int searched = 0;

@@ -10,6 +10,8 @@ namespace {
 
 constexpr int kBoxText = 0xFFFF;
 
+constexpr DWORD kAnyProcess = 0;
+
 struct Gathering {
   DWORD process;
   std::vector<HWND> windows;
@@ -19,7 +21,8 @@ BOOL CALLBACK Gather(HWND window, LPARAM gathering) {
   Gathering& all = *reinterpret_cast<Gathering*>(gathering);
   DWORD process = 0;
   GetWindowThreadProcessId(window, &process);
-  if (process == all.process && IsWindowVisible(window)) all.windows.push_back(window);
+  const bool isWanted = all.process == kAnyProcess || process == all.process;
+  if (isWanted && IsWindowVisible(window)) all.windows.push_back(window);
   return TRUE;
 }
 
@@ -71,10 +74,7 @@ std::vector<HWND> Program::Windows() const { return WindowsOf(process_.dwProcess
 
 HWND Program::WindowWith(int controlId) const { return WithControl(Windows(), controlId); }
 
-HWND Program::Box() const {
-  const HWND own = WindowWith(kBoxText);
-  return own != nullptr || reporting_ == 0 ? own : WithControl(WindowsOf(reporting_), kBoxText);
-}
+HWND Program::Box() const { return WithControl(WindowsOf(kAnyProcess), kBoxText); }
 
 HWND Program::WaitForWindowWith(int controlId) const {
   return WaitFor(L"control " + std::to_wstring(controlId),

@@ -24,9 +24,8 @@ class Program {
   std::vector<HWND> Windows() const;
   /// The one of them with a control of this number; null when there is none now.
   HWND WindowWith(int controlId) const;
-  /// The boxes of this process are taken for its own: the library shows the reports.
-  void TakeBoxesOf(DWORD process) { reporting_ = process; }
-  /// Its message box; null when there is none now.
+  /// The message box on the screen, whoever shows it: the terminal shows the program's reports.
+  /// Null when there is none now.
   HWND Box() const;
 
   HWND WaitForWindowWith(int controlId) const;
@@ -36,7 +35,6 @@ class Program {
   HWND WaitFor(const std::wstring& content, const std::function<HWND()>& find) const;
 
   PROCESS_INFORMATION process_ = {};
-  DWORD reporting_ = 0;
 };
 
 }  // namespace driver

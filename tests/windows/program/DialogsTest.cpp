@@ -51,7 +51,7 @@ TEST(TheDialogs, WaitByThemselvesAndLetTheAgentChooseOnTheWay) {
       L"see txtMCONumber \"4012345679\"\n"
       L"see txtPTA \"SEK1900/TAX SEK240XT, SEK80YQ\"\n"
       L"click cmdCancel\n");
-  EXPECT_EQ(stage.ExitCode(), 0u);
+  EXPECT_EQ(stage.program().ExitCode(), 0u);
   EXPECT_EQ(stage.Entries(),
             (Lines{L"RT", L"IR", L"RT", L"IR", L"RT", L"TQT", L"TQM RT", L"RT", L"TQM 2 RT",
                    L"OS SK PTA", L"TQT", L"TQT", L"TQT 1", L"TQT 2"}));
@@ -63,7 +63,7 @@ TEST_P(WaitingEnds, AndTheRunWithIt) {
   Stage stage;
   stage.SetBooking(kTwoOfEverything);
   stage.Work(std::wstring(L"form frmWaitForMCO\n") + GetParam());
-  EXPECT_EQ(stage.ExitCode(), 0u);
+  EXPECT_EQ(stage.program().ExitCode(), 0u);
   EXPECT_EQ(stage.Entries(), (Lines{L"RT", L"IR", L"RT"}));
 }
 
@@ -100,7 +100,7 @@ TEST_F(CompleteBooking, EnterTakesTheSelectedMCOAndSpaceTheTSTsUnderTheKeys) {
             [&] { return TextOf(Item(dialog, ID_txtPTA)) == L"SEK1900/TAX SEK240XT, SEK80YQ"; });
   EXPECT_EQ(TextOf(Item(dialog, ID_txtMCONumber)), L"4012345679");
   Press(Item(dialog, ID_txtPTA), VK_ESCAPE);
-  EXPECT_EQ(stage.ExitCode(), 0u);
+  EXPECT_EQ(stage.program().ExitCode(), 0u);
 }
 
 TEST_F(CompleteBooking, TSTsArePickedWithTheMouseToo) {
@@ -123,7 +123,7 @@ TEST_F(CompleteBooking, EscInTheTSTListEndsTheRun) {
   Program& program = stage.Start();
   Press(Item(program.WaitForWindowWith(ID_lstMCO), ID_lstMCO), VK_RETURN);
   Press(Item(program.WaitForWindowWith(ID_lstTST), ID_lstTST), VK_ESCAPE);
-  EXPECT_EQ(stage.ExitCode(), 0u);
+  EXPECT_EQ(stage.program().ExitCode(), 0u);
 }
 
 }  // namespace

@@ -36,7 +36,7 @@ std::wstring WithoutLastLineEnd(std::wstring text) {
 TEST(TheProgram, TakesTheOrdinaryBookingFromStartToQueue) {
   Stage stage;
   stage.WorkLikeTheOrdinaryAgent();
-  EXPECT_EQ(stage.ExitCode(), 0u);
+  EXPECT_EQ(stage.program().ExitCode(), 0u);
   EXPECT_EQ(stage.Entries(), ReadingAndWriting());
   EXPECT_EQ(stage.PnrAfter(), WithoutLastLineEnd(ProjectFile(L"tests\\run\\ordinary.after")));
 }
@@ -58,7 +58,7 @@ class WithoutWriting : public testing::TestWithParam<const wchar_t*> {};
 TEST_P(WithoutWriting, TheRunEndsWithZeroAndThePnrAsItWas) {
   Stage stage;
   stage.Work(std::wstring(L"form frmPTA\ntype txtCityCode \"OSL\"\n") + GetParam());
-  EXPECT_EQ(stage.ExitCode(), 0u);
+  EXPECT_EQ(stage.program().ExitCode(), 0u);
   EXPECT_EQ(stage.Entries(), kReading);
   EXPECT_EQ(stage.Ini(), ProjectFile(L"practice\\pnrs\\ordinary.ini"));
 }
@@ -71,7 +71,7 @@ TEST(TheProgram, EscEndsTheRunLikeCancel) {
   Program& program = stage.Start();
   const HWND dialog = program.WaitForWindowWith(ID_txtPWCT);
   Press(Item(dialog, ID_txtPTA), VK_ESCAPE);
-  EXPECT_EQ(stage.ExitCode(), 0u);
+  EXPECT_EQ(stage.program().ExitCode(), 0u);
   EXPECT_EQ(stage.Entries(), kReading);
 }
 
@@ -91,7 +91,7 @@ TEST(TheProgram, TakesNeitherASecondOkNorCancelWhileItWrites) {
   Press(Item(dialog, ID_cmdOK), VK_RETURN);
   Press(Item(dialog, ID_cmdOK), VK_ESCAPE);
   PostMessageW(dialog, WM_SYSCOMMAND, SC_CLOSE, 0);
-  EXPECT_EQ(stage.ExitCode(), 0u);
+  EXPECT_EQ(stage.program().ExitCode(), 0u);
   EXPECT_EQ(stage.Entries(), ReadingAndWriting());
 }
 
@@ -110,7 +110,7 @@ TEST(TheProgram, ShowsAnInvalidFieldAndLeavesTheFocusAndTheSelectionThere) {
       L"see txtCityCode \"OSL\"\n"
       L"state txtCityCode not-yellow\n"
       L"click cmdCancel\n");
-  EXPECT_EQ(stage.ExitCode(), 0u);
+  EXPECT_EQ(stage.program().ExitCode(), 0u);
 }
 
 TEST(TheProgram, F1ExplainsAFieldAndGivesTheFocusBack) {
@@ -124,7 +124,7 @@ TEST(TheProgram, F1ExplainsAFieldAndGivesTheFocusBack) {
       L"state txtQueueCat focused\n"
       L"see staStatusText \"Enter Queue Number/Category, eg. 80\"\n"
       L"click cmdCancel\n");
-  EXPECT_EQ(stage.ExitCode(), 0u);
+  EXPECT_EQ(stage.program().ExitCode(), 0u);
 }
 
 }  // namespace

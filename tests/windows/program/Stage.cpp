@@ -4,6 +4,7 @@
 
 #include <cstdio>
 
+#include "platform/win32/WindowsPlatform.h"
 #include "tests/windows/driver/Driver.h"
 #include "tests/windows/terminal/Client.h"
 
@@ -19,6 +20,16 @@ std::wstring WindowsPath(const char* path) {
     if (c == L'/') c = L'\\';
   }
   return text;
+}
+
+/// A value that the program keeps for the user.
+void Store(std::wstring_view key, std::wstring_view text) {
+  std::vector<client::Variant> arguments;
+  for (const std::wstring_view argument :
+       {std::wstring_view(L"PTAStartup"), std::wstring_view(L"Values"), key, text}) {
+    arguments.push_back(client::Text(argument));
+  }
+  client::Call(*client::Make(L"UserSettingsStore").Get(), L"SaveSetting", std::move(arguments));
 }
 
 std::wstring ReadText(const std::wstring& path) {
@@ -46,7 +57,7 @@ std::wstring ProjectFile(const std::wstring& path) {
   return ReadText(WindowsPath(PTA_SOURCE_FOLDER) + L"\\" + path);
 }
 
-Stage::Stage() : terminal_(std::make_unique<terminal::PracticeTerminal>()) {
+Stage::Stage(TerminalPtr terminal) : terminal_(std::move(terminal)) {
   const std::wstring product = WindowsPath(PTA_PROGRAM);
   folder_ = product.substr(0, product.find_last_of(L'\\')) + L"\\stage";
   CreateDirectoryW(folder_.c_str(), nullptr);
@@ -64,9 +75,20 @@ Stage::~Stage() {
       << "the program left objects in the terminal";
 }
 
+void Stage::Set(const practice::RehearsalScene& scene) {
+  SetBooking(scene.booking);
+  const std::wstring ini = folder_ + L"\\PTA_QX.ini";
+  if (scene.hasIni) {
+    WriteText(ini, scene.ini);
+  } else {
+    DeleteFileW(ini.c_str());
+  }
+  Store(L"OfficeID", scene.office);
+  Store(L"Date", platform::WindowsPlatform().ShortDateText(scene.today));
+}
+
 Program& Stage::Start() {
   program_ = std::make_unique<Program>(folder_ + L"\\PTA_QX.exe");
-  if (terminal_ != nullptr) program_->TakeBoxesOf(terminal_->processId());
   return *program_;
 }
 

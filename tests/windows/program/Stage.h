@@ -4,20 +4,24 @@
 #include <string>
 #include <vector>
 
+#include "practice/rehearsal/Rehearsal.h"
 #include "tests/windows/driver/WindowAgent.h"
 #include "tests/windows/terminal/PracticeTerminal.h"
 
 namespace driver {
 
 /// The product in a folder of its own with its settings, on a day on which it has not run yet, and
-/// a practice terminal with the ordinary booking.
+/// a practice terminal with the ordinary booking; none when the pointer is null.
 class Stage {
  public:
-  Stage();
+  using TerminalPtr = std::shared_ptr<terminal::PracticeTerminal>;
+  explicit Stage(TerminalPtr terminal = std::make_shared<terminal::PracticeTerminal>());
   /// Nothing of the program may be left in a terminal that runs.
   ~Stage();
 
   void SetBooking(const std::wstring& booking) { terminal().Load(booking); }
+  /// The scene's booking, INI file and stored office.
+  void Set(const practice::RehearsalScene& scene);
   /// The host takes this many milliseconds an entry.
   void SetPace(int milliseconds) { terminal().SlowDown(milliseconds); }
   Program& Start();
@@ -27,18 +31,18 @@ class Stage {
   /// Starts the program and has a written agent do its lines.
   void Work(const std::wstring& lines);
   void WorkLikeTheOrdinaryAgent();
-  /// The exit code of the program, which ends within the time that an agent is willing to wait.
+  /// The exit code of a program that has nothing left to do: it ends within 5 seconds.
   DWORD ExitCode() const;
 
-  /// What the host was asked, in order; without the first, that for the office.
+  /// What the host was asked, in order; without the first, which is for the office.
   std::vector<std::wstring> Entries() const;
   std::wstring PnrAfter() const { return WithLineFeeds(terminal_->PnrText()); }
   std::wstring Ini() const;
 
- private:
   static std::wstring WithLineFeeds(std::wstring text);
 
-  std::unique_ptr<terminal::PracticeTerminal> terminal_;
+ private:
+  TerminalPtr terminal_;
   std::wstring folder_;
   std::unique_ptr<Program> program_;
 };

@@ -2,7 +2,17 @@
 
 #include <algorithm>
 
+#include "common/Text.h"
+
 namespace client {
+
+Failure::Failure(HRESULT theResult, SCODE theNumber, std::wstring theSource, std::wstring theText)
+    : std::runtime_error("The terminal: " + std::to_string(theResult) + " " +
+                         common::ToUtf8(theText)),
+      result(theResult),
+      number(theNumber),
+      source(std::move(theSource)),
+      text(std::move(theText)) {}
 
 Variant Text(std::wstring_view text) {
   Variant variant;

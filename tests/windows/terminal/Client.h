@@ -2,6 +2,7 @@
 
 #include <wrl/client.h>
 
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -14,7 +15,10 @@ using hostlib::com::Variant;
 using Microsoft::WRL::ComPtr;
 
 /// What a failed call says.
-struct Failure {
+class Failure : public std::runtime_error {
+ public:
+  Failure(HRESULT theResult, SCODE theNumber, std::wstring theSource, std::wstring theText);
+
   HRESULT result = S_OK;
   SCODE number = 0;
   std::wstring source;

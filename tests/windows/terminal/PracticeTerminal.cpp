@@ -22,6 +22,13 @@ bool SessionCanBeMade() {
   return SUCCEEDED(client::Make(L"TerminalSession", session));
 }
 
+void Register(const std::wstring& program) {
+  if (Process(program, L"/regserver").Wait() == 0) return;
+  throw driver::DriverError(program + L" can not be registered");
+}
+
+void Unregister(const std::wstring& program) { Process(program, L"/unregserver").Wait(); }
+
 }  // namespace
 
 PracticeTerminal::PracticeTerminal(const std::wstring& booking)
@@ -57,12 +64,17 @@ std::wstring PracticeTerminal::Transcript() const {
 }
 
 std::vector<std::wstring> PracticeTerminal::Entries() const {
-  const std::wstring text = Transcript();
+  std::wstring text = Transcript();
+  text.erase(0, text.rfind(L"--- Practice booking"));
   std::vector<std::wstring> entries;
   for (std::size_t at = text.find(L"\n> "); at != text.npos; at = text.find(L"\n> ", at + 1)) {
     entries.push_back(text.substr(at + 3, text.find(L'\r', at + 1) - at - 3));
   }
   return entries;
+}
+
+int PracticeTerminal::EntryCount() const {
+  return static_cast<int>(AskDesk(L"EntryCount").get().lVal);
 }
 
 void PracticeTerminal::SlowDown(int milliseconds) {
@@ -77,12 +89,12 @@ void PracticeTerminal::DropSession(bool answerOnly) {
   TellDesk(L"DropSession", client::Flag(answerOnly));
 }
 
-Registered::Registered() {
-  if (Process(Program(), L"/regserver").Wait() != 0) {
-    throw driver::DriverError(L"The terminal can not be registered");
-  }
-}
+Registered::Registered(std::wstring program) : program_(std::move(program)) { Register(program_); }
 
-Registered::~Registered() { Process(Program(), L"/unregserver").Wait(); }
+Registered::~Registered() { Unregister(program_); }
+
+Unregistered::Unregistered() { Unregister(Program()); }
+
+Unregistered::~Unregistered() { Register(Program()); }
 
 }  // namespace terminal

@@ -26,13 +26,14 @@ class PracticeTerminal {
   void Kill() { process_.Kill(); }
   bool IsRunning() const { return process_.IsRunning(); }
   HWND window() const { return window_; }
-  DWORD processId() const { return process_.id(); }
 
   void Load(const std::wstring& booking);
   std::wstring PnrText() const;
-  /// What the host was asked, in order, since the terminal was opened.
+  /// What the host was asked, in order, since the booking was opened.
   std::vector<std::wstring> Entries() const;
   std::wstring Transcript() const;
+  /// How many entries have arrived, with the one that waits for its answer.
+  int EntryCount() const;
   /// Every entry takes this long.
   void SlowDown(int milliseconds);
   void RefuseNext(const std::wstring& reason);
@@ -43,14 +44,26 @@ class PracticeTerminal {
   HWND window_ = nullptr;
 };
 
-/// The classes of the terminal are in the registry in its lifetime.
+/// The classes of a terminal are in the registry in its lifetime.
 class Registered {
  public:
   /// Throws driver::DriverError.
-  Registered();
+  explicit Registered(std::wstring program = Program());
   ~Registered();
   Registered(const Registered&) = delete;
   Registered& operator=(const Registered&) = delete;
+
+ private:
+  std::wstring program_;
+};
+
+/// ... and are not in its lifetime.
+class Unregistered {
+ public:
+  Unregistered();
+  ~Unregistered();
+  Unregistered(const Unregistered&) = delete;
+  Unregistered& operator=(const Unregistered&) = delete;
 };
 
 }  // namespace terminal

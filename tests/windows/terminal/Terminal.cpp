@@ -7,7 +7,6 @@
 namespace terminal {
 namespace {
 
-constexpr wchar_t kName[] = L"VantelPractice.exe";
 constexpr DWORD kLong = 20'000;
 
 }  // namespace
@@ -18,9 +17,9 @@ std::wstring TestProgram() {
   return path;
 }
 
-std::wstring Program() {
+std::wstring Program(const std::wstring& name) {
   const std::wstring test = TestProgram();
-  return test.substr(0, test.find_last_of(L'\\') + 1) + kName;
+  return test.substr(0, test.find_last_of(L'\\') + 1) + name;
 }
 
 Process::Process(const std::wstring& program, const std::wstring& argument) {
@@ -58,14 +57,14 @@ bool Process::IsRunning() const {
   return WaitForSingleObject(process_.hProcess, 0) == WAIT_TIMEOUT;
 }
 
-int Running() {
+int Running(const std::wstring& name) {
   const HANDLE snapshot = CreateToolhelp32Snapshot(TH32CS_SNAPPROCESS, 0);
   PROCESSENTRY32W entry = {};
   entry.dwSize = sizeof entry;
   int count = 0;
   for (BOOL more = Process32FirstW(snapshot, &entry); more;
        more = Process32NextW(snapshot, &entry)) {
-    if (lstrcmpiW(entry.szExeFile, kName) == 0) ++count;
+    if (lstrcmpiW(entry.szExeFile, name.c_str()) == 0) ++count;
   }
   CloseHandle(snapshot);
   return count;

@@ -9,7 +9,9 @@ namespace terminal {
 
 /// This test's own program.
 std::wstring TestProgram();
-std::wstring Program();
+inline constexpr wchar_t kPracticeTerminal[] = L"VantelPractice.exe";
+/// The practice terminal, or another program beside the test's own.
+std::wstring Program(const std::wstring& name = kPracticeTerminal);
 
 /// A process that is ended with its owner.
 class Process {
@@ -30,7 +32,7 @@ class Process {
   PROCESS_INFORMATION process_ = {};
 };
 
-/// The number of processes of the terminal that run.
-int Running();
+/// The number of processes of the program that run.
+int Running(const std::wstring& name = kPracticeTerminal);
 
 }  // namespace terminal

@@ -24,8 +24,6 @@ void Telling(Body body) {
   } catch (const hostlib::LibraryError& error) {
     ADD_FAILURE() << common::ToUtf8(error.object() + L"." + error.operation() + L": " +
                                     error.description());
-  } catch (const client::Failure& failure) {
-    ADD_FAILURE() << std::hex << failure.result << " " << common::ToUtf8(failure.text);
   }
 }
 
