@@ -178,22 +178,67 @@ TEST_F(TerminalWindow, SaysWhatIsWrongWithABooking) {
   }
 }
 
+/// A script's call that shows a box, from another thread, until its box is answered.
+class BoxOfAScript {
+ public:
+  explicit BoxOfAScript(const std::function<void(IDispatch& reporter)>& call)
+      : shown_(std::async(std::launch::async, [call] {
+          CoInitializeEx(nullptr, COINIT_MULTITHREADED);
+          call(*client::Make(L"ScriptErrorReporter").Get());
+          CoUninitialize();
+        })) {}
+
+  bool IsWaiting() const {
+    return shown_.wait_for(std::chrono::seconds(0)) != std::future_status::ready;
+  }
+  void Answer(HWND box) {
+    PostMessageW(driver::OkButton(box), BM_CLICK, 0, 0);
+    shown_.get();
+  }
+
+ private:
+  std::future<void> shown_;
+};
+
 TEST_F(TerminalWindow, AnErrorBoxOfAScriptIsShownAndWaitedFor) {
-  auto shown = std::async(std::launch::async, [] {
-    CoInitializeEx(nullptr, COINIT_MULTITHREADED);
-    const auto reporter = client::Make(L"ScriptErrorReporter");
+  BoxOfAScript shown([](IDispatch& reporter) {
     std::vector<Variant> arguments = One(client::Number(7));
     arguments.push_back(client::Text(L"  A Title "));
     arguments.push_back(client::Text(L"One\rTwo"));
     arguments.push_back(client::Number(16));
-    Call(*reporter.Get(), L"ShowError", std::move(arguments));
-    CoUninitialize();
+    Call(reporter, L"ShowError", std::move(arguments));
   });
   const HWND box = driver::WindowNamed(L"  A Title ");
   EXPECT_EQ(driver::BoxText(box), L"One\nTwo");
-  EXPECT_NE(shown.wait_for(std::chrono::seconds(0)), std::future_status::ready);
-  PostMessageW(driver::OkButton(box), BM_CLICK, 0, 0);
-  shown.get();
+  EXPECT_TRUE(shown.IsWaiting());
+  shown.Answer(box);
+}
+
+TEST_F(TerminalWindow, AMessageOfAScriptIsShownAndWaitedFor) {
+  BoxOfAScript shown([](IDispatch& reporter) {
+    std::vector<Variant> arguments = One(client::Number(7));
+    arguments.push_back(client::Text(L"  A Title "));
+    arguments.push_back(client::Text(L"A message"));
+    Call(reporter, L"ShowMessage", std::move(arguments));
+  });
+  const HWND box = driver::WindowNamed(L"  A Title ");
+  EXPECT_EQ(driver::BoxText(box), L"A message");
+  EXPECT_TRUE(shown.IsWaiting());
+  shown.Answer(box);
+}
+
+TEST_F(TerminalWindow, TheLastErrorIsReportedInABoxThatIsWaitedFor) {
+  terminal_.DropSession(false);
+  EXPECT_THROW(Send(L"RT"), Failure);
+  BoxOfAScript shown([](IDispatch& reporter) { Call(reporter, L"ReportLastError"); });
+  HWND box = nullptr;
+  driver::WaitUntil(L"there is a box", [&] {
+    box = FindWindowW(L"#32770", nullptr);
+    return box != nullptr && IsWindowVisible(box);
+  });
+  EXPECT_THAT(driver::BoxText(box), HasSubstr(L"session"));
+  EXPECT_TRUE(shown.IsWaiting());
+  shown.Answer(box);
 }
 
 }  // namespace
