@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "errors/ErrorHandler.h"
 #include "hostlib/TerminalSession.h"
 

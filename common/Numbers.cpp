@@ -2,6 +2,8 @@
 
 #include <charconv>
 #include <cmath>
+#include <cstdio>
+#include <cstdlib>
 #include <limits>
 
 #include "common/RunTimeError.h"
@@ -36,13 +38,11 @@ Whole ToWhole(double number) {
 double FromDigits(std::wstring_view digits) {
   std::string narrow;
   for (const wchar_t c : digits) narrow += static_cast<char>(c);
-  double number = 0;
-  const auto [end, error] = std::from_chars(narrow.data(), narrow.data() + narrow.size(), number,
-                                            std::chars_format::fixed);
-  if (error != std::errc::result_out_of_range) return number;
-  // Too large, or a fraction too small to tell from 0.
-  if (narrow.find_first_of("123456789") < narrow.find('.')) throw OverflowError();
-  return 0;
+  // The C library's, which the program never takes out of its own locale; those of <charconv> bring
+  // two hundred kilobytes of tables with them.
+  const double number = std::strtod(narrow.c_str(), nullptr);
+  if (std::isinf(number)) throw OverflowError();
+  return number;
 }
 
 }  // namespace
@@ -85,15 +85,15 @@ std::wstring NumberText(double number, std::wstring_view decimal) {
   if (!std::isfinite(number)) throw OverflowError();
   // Scientific form fixes the count of significant digits; the point is then set by hand.
   char buffer[64];
-  const auto [end, error] = std::to_chars(buffer, buffer + sizeof buffer, std::abs(number),
-                                          std::chars_format::scientific, kSignificantDigits - 1);
-  const std::string_view form(buffer, static_cast<std::size_t>(end - buffer));
+  const int length =
+      std::snprintf(buffer, sizeof buffer, "%.*e", kSignificantDigits - 1, std::abs(number));
+  const std::string_view form(buffer, static_cast<std::size_t>(length));
   const std::size_t mark = form.find('e');
   std::string digits(1, form.front());
   digits += form.substr(2, mark - 2);
   int exponent = 0;
   const char* first = form.data() + mark + (form[mark + 1] == '+' ? 2 : 1);
-  std::from_chars(first, end, exponent);
+  std::from_chars(first, form.data() + form.size(), exponent);
 
   digits.erase(digits.find_last_not_of('0') + 1);
   if (digits.empty()) return L"0";
@@ -116,7 +116,11 @@ std::wstring NumberText(double number, std::wstring_view decimal) {
   return text;
 }
 
-std::wstring NumberText(std::int32_t number) { return std::to_wstring(number); }
+std::wstring NumberText(std::int32_t number) {
+  char digits[std::numeric_limits<std::int32_t>::digits10 + 3];
+  const auto [end, error] = std::to_chars(std::begin(digits), std::end(digits), number);
+  return {digits, end};
+}
 
 double HostNumber(std::wstring_view text) {
   std::size_t length = 0;

@@ -11,7 +11,7 @@ ErrorHandler::ErrorHandler(hostlib::ScriptErrorReporter& reporter, common::Messa
                            common::RunEnd& runEnd, StopFlag& stop)
     : reporter_(reporter), boxes_(boxes), runEnd_(runEnd), stop_(stop) {}
 
-bool ErrorHandler::Run(const Procedure& procedure, const std::function<void()>& body) {
+bool ErrorHandler::Run(const Procedure& procedure, common::Body body) {
   try {
     body();
     return true;

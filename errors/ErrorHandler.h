@@ -1,8 +1,8 @@
 #pragma once
 
-#include <functional>
 #include <string_view>
 
+#include "common/Body.h"
 #include "common/EndOfRun.h"
 #include "common/MessageBoxes.h"
 #include "errors/Procedures.h"
@@ -26,7 +26,7 @@ class ErrorHandler {
   /// Runs a procedure's body. A failure in it is shown in the procedure's form, the rest of the
   /// body is left, and the run goes on, is marked to stop, or ends, as the procedure says. The end
   /// of the run passes through. True when the body completed.
-  bool Run(const Procedure& procedure, const std::function<void()>& body);
+  bool Run(const Procedure& procedure, common::Body body);
 
   /// Shows a report from within a procedure: its text and `addition`, with its number and style.
   /// Goes on, marks the run to stop, or ends it, as the report says.

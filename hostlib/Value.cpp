@@ -24,7 +24,7 @@ double NumberIn(const Value& value) {
 }
 
 std::wstring Quoted(const std::wstring& text) { return L"\"" + text + L"\""; }
-std::wstring Quoted(std::int16_t number) { return std::to_wstring(number); }
+std::wstring Quoted(std::int16_t number) { return common::NumberText(number); }
 std::wstring Quoted(double number) { return common::HostNumberText(number); }
 
 template <typename T>
@@ -35,7 +35,7 @@ std::wstring Rows(const Array<T>& array) {
     rows += Quoted(array.items[i]);
   }
   rows += L"]";
-  if (array.lowerBound != 0) rows += L" from " + std::to_wstring(array.lowerBound);
+  if (array.lowerBound != 0) rows += L" from " + common::NumberText(array.lowerBound);
   return rows;
 }
 
@@ -97,8 +97,8 @@ std::wstring Describe(const Value& value) {
   if (value.IsEmpty()) return L"Empty";
   if (value.IsMissing()) return L"missing";
   if (const auto* flag = value.If<bool>()) return *flag ? L"True" : L"False";
-  if (const auto* integer = value.If<std::int16_t>()) return std::to_wstring(*integer);
-  if (const auto* integer = value.If<std::int32_t>()) return std::to_wstring(*integer);
+  if (const auto* integer = value.If<std::int16_t>()) return common::NumberText(*integer);
+  if (const auto* integer = value.If<std::int32_t>()) return common::NumberText(*integer);
   if (const auto* number = value.If<double>()) return Quoted(*number);
   if (const auto* text = value.If<std::wstring>()) return Quoted(*text);
   if (const auto* array = value.If<TextArray>()) return Rows(*array);

@@ -5,6 +5,7 @@
 #include "hostlib/com/Apartment.h"
 #include "hostlib/com/ComLibrary.h"
 #include "hostlib/com/LibraryCheck.h"
+#include "platform/win32/DllSearch.h"
 #include "platform/win32/WindowsPlatform.h"
 #include "ui/win32/WindowsDesktop.h"
 
@@ -28,6 +29,7 @@ int RunOnInstalledLibrary(ui::Desktop& desktop) {
 }  // namespace
 
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, LPWSTR, int) {
+  platform::LoadSystemLibrariesOnly();
   ui::WindowsDesktop desktop(instance, L"PTA_QX");
   return RunOnInstalledLibrary(desktop);
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <limits>
 
+#include "common/Numbers.h"
 #include "hostlib/com/Failures.h"
 
 namespace hostlib::com {
@@ -139,7 +140,7 @@ Value ArrayValue(SAFEARRAY* array, VARTYPE rowType) {
     case VT_VARIANT:
       return VariantRows(array);
     default:
-      ThrowMismatch(L"an array of kind " + std::to_wstring(rowType));
+      ThrowMismatch(L"an array of kind " + common::NumberText(rowType));
   }
 }
 

@@ -1,5 +1,6 @@
 #include "hostlib/com/ClassBinding.h"
 
+#include "common/Numbers.h"
 #include "hostlib/com/CallOutcome.h"
 
 namespace hostlib::com {
@@ -62,7 +63,8 @@ std::vector<TypeInfo> InterfacesOf(IDispatch& object, const CLSID* classId) {
 }
 
 std::wstring Count(std::size_t number) {
-  return std::to_wstring(number) + (number == 1 ? L" argument" : L" arguments");
+  return common::NumberText(static_cast<std::int32_t>(number)) +
+         (number == 1 ? L" argument" : L" arguments");
 }
 
 }  // namespace
@@ -103,14 +105,14 @@ const Member* ClassBinding::Find(int interfaceNumber, int slot) {
 std::wstring ClassBinding::WhatIsWrongWith(const Operation& operation) {
   if (interfaces_.empty()) return L"its object does not describe itself";
   if (InterfaceId(operation.interfaceNumber) == nullptr) {
-    return L"there is no interface " + std::to_wstring(operation.interfaceNumber);
+    return L"there is no interface " + common::NumberText(operation.interfaceNumber);
   }
   const Member* member = Find(operation.interfaceNumber, operation.slot);
   if (member == nullptr) return L"there is no such slot";
   const auto expected = static_cast<std::size_t>(operation.arguments);
   if (member->references.size() == expected) return {};
   return L"it takes " + Count(member->references.size()) + L" instead of " +
-         std::to_wstring(expected);
+         common::NumberText(static_cast<std::int32_t>(expected));
 }
 
 }  // namespace hostlib::com

@@ -1,5 +1,6 @@
 #include "hostlib/com/ComObject.h"
 
+#include "common/Numbers.h"
 #include "hostlib/com/Failures.h"
 
 namespace hostlib::com {
@@ -13,7 +14,7 @@ using Microsoft::WRL::ComPtr;
 }
 
 std::wstring NameOf(const Operation* operation, int slot) {
-  return operation != nullptr ? std::wstring(operation->name) : L"slot " + std::to_wstring(slot);
+  return operation != nullptr ? std::wstring(operation->name) : L"slot " + common::NumberText(slot);
 }
 
 }  // namespace
@@ -35,7 +36,7 @@ Value ComObject::Call(int slot, const Arguments& arguments) {
 ObjectPtr ComObject::Interface(int number) {
   ClassBinding& binding = shared_->library.BindingFor(ClassName(), *shared_->object.Get());
   if (binding.InterfaceId(number) == nullptr) {
-    ThrowUnusable(E_NOINTERFACE, L"The object has no interface " + std::to_wstring(number));
+    ThrowUnusable(E_NOINTERFACE, L"The object has no interface " + common::NumberText(number));
   }
   return ObjectPtr(new ComObject(shared_, number));
 }
@@ -54,12 +55,14 @@ Member ComObject::MemberFor(int slot, std::size_t arguments) {
   ClassBinding& binding = shared_->library.BindingFor(ClassName(), *shared_->object.Get());
   const Member* member = binding.Find(number_, slot);
   if (member == nullptr) {
-    ThrowUnusable(DISP_E_MEMBERNOTFOUND, L"The object has no slot " + std::to_wstring(slot));
+    ThrowUnusable(DISP_E_MEMBERNOTFOUND, L"The object has no slot " + common::NumberText(slot));
   }
   if (member->references.size() != arguments) {
-    ThrowUnusable(DISP_E_BADPARAMCOUNT, L"The operation takes " +
-                                            std::to_wstring(member->references.size()) +
-                                            L" arguments instead of " + std::to_wstring(arguments));
+    ThrowUnusable(DISP_E_BADPARAMCOUNT,
+                  L"The operation takes " +
+                      common::NumberText(static_cast<std::int32_t>(member->references.size())) +
+                      L" arguments instead of " +
+                      common::NumberText(static_cast<std::int32_t>(arguments)));
   }
   return *member;
 }

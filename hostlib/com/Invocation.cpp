@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "common/Numbers.h"
 #include "hostlib/com/Failures.h"
 
 namespace hostlib::com {
@@ -55,7 +56,8 @@ Variant InvokeMember(IDispatch& object, const Member& member, std::vector<Varian
                     isPut ? nullptr : &result.get(), exception.Out(), &badArgument);
   if (outcome == DISP_E_EXCEPTION) throw exception.Error();
   if (NamesAnArgument(outcome) && badArgument < count) {
-    ThrowLinkError(outcome, L"Argument " + std::to_wstring(count - badArgument));
+    ThrowLinkError(
+        outcome, L"Argument " + common::NumberText(static_cast<std::int32_t>(count - badArgument)));
   }
   Check(outcome);
   return result;

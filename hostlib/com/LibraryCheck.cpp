@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <set>
 
+#include "common/Numbers.h"
 #include "hostlib/com/CallOutcome.h"
 
 namespace hostlib::com {
@@ -17,9 +18,9 @@ constexpr std::size_t kNamedAtMost = 10;
 std::wstring Words(const Operation& operation, const std::wstring& fault) {
   std::wstring words(operation.object);
   if (operation.interfaceNumber != 1) {
-    words += L", interface " + std::to_wstring(operation.interfaceNumber);
+    words += L", interface " + common::NumberText(operation.interfaceNumber);
   }
-  return words + L", slot " + std::to_wstring(operation.slot) + L" (" +
+  return words + L", slot " + common::NumberText(operation.slot) + L" (" +
          std::wstring(operation.name) + L"): " + fault + L".";
 }
 
@@ -79,7 +80,9 @@ std::wstring Message(const std::vector<std::wstring>& faults) {
   std::wstring message = std::wstring(kIntroduction) + L"\r";
   for (std::size_t i = 0; i < faults.size() && i < kNamedAtMost; ++i) message += L"\r" + faults[i];
   if (faults.size() > kNamedAtMost) {
-    message += L"\r... and " + std::to_wstring(faults.size() - kNamedAtMost) + L" more.";
+    message += L"\r... and " +
+               common::NumberText(static_cast<std::int32_t>(faults.size() - kNamedAtMost)) +
+               L" more.";
   }
   return message;
 }

@@ -1,5 +1,6 @@
 #include "hostlib/com/VariantValues.h"
 
+#include "common/Numbers.h"
 #include "hostlib/com/ArrayValues.h"
 #include "hostlib/com/Failures.h"
 
@@ -124,7 +125,7 @@ Value FromVariant(const VARIANT& variant, ObjectGate& gate, std::wstring_view cl
     case VT_UNKNOWN:
       return ObjectValue(variant.punkVal, gate, className);
     default:
-      ThrowMismatch(L"a variant of kind " + std::to_wstring(variant.vt));
+      ThrowMismatch(L"a variant of kind " + common::NumberText(variant.vt));
   }
 }
 

@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "common/Text.h"
+#include "platform/win32/DllSearch.h"
 #include "practice/terminal/Registration.h"
 #include "practice/terminal/TerminalWindow.h"
 
@@ -72,6 +73,7 @@ int Run(const std::wstring& line) {
 }  // namespace
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, LPWSTR line, int) {
+  platform::LoadSystemLibrariesOnly();
   const Apartment apartment;
   try {
     return Run(line);

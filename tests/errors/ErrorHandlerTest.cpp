@@ -16,8 +16,8 @@ constexpr Procedure kEntry{L"Entry!", 52, common::kCritical, Form::kShowErrorOrL
                            After::kEndsRun};
 constexpr Procedure kFirst{L"First!", 51, common::kCritical, Form::kShowMessage, After::kEndsRun};
 
-void RaiseOwn() { throw common::RunTimeError(L"broken"); }
-void RaiseLibrarys() { throw hostlib::LibraryError(77, L"lib", L"library broken"); }
+const auto RaiseOwn = [] { throw common::RunTimeError(L"broken"); };
+const auto RaiseLibrarys = [] { throw hostlib::LibraryError(77, L"lib", L"library broken"); };
 
 TEST(ErrorHandler, ABodyThatCompletesShowsNothing) {
   RoomBench bench;

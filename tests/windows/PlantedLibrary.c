@@ -1,0 +1,1 @@
+/* A library that lies beside a program without belonging to it. */
