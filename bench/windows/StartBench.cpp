@@ -1,0 +1,94 @@
+// Measures how the program starts beside a minimal dialog program and a practice terminal whose
+// host answers at once: the time to the first window and to the dialog, and the memory at it.
+//
+//   pta-start-bench [ROUNDS]   all programs lie in its own folder, with PTA_QX.ini
+
+#include <cstdio>
+#include <cstdlib>
+
+#include "bench/windows/HostTime.h"
+#include "bench/windows/resource.h"
+#include "common/Text.h"
+#include "hostlib/com/Apartment.h"
+#include "hostlib/com/ComLibrary.h"
+#include "tests/windows/driver/Driver.h"
+#include "tests/windows/terminal/Client.h"
+#include "tests/windows/terminal/PracticeTerminal.h"
+#include "ui/win32/resource.h"
+
+namespace {
+
+using bench::Start;
+
+void PrintFigure(const char* what, double figure, double atMost, const char* unit) {
+  std::printf("  %-52s %7.2f%s  (at most %.2f%s: %s)\n", what, figure, unit, atMost, unit,
+              figure <= atMost ? "met" : "MISSED");
+}
+
+void Print(const Start& minimal, const Start& program, const bench::HostTime& host) {
+  std::printf("\nStart, fastest in milliseconds: first window, dialog ready; memory in MB\n");
+  const auto line = [](const char* name, const Start& start) {
+    std::printf("  %-52s %7.0f %7.0f %7.2f\n", name, start.firstWindow.count(), start.ready.count(),
+                start.megabytes);
+  };
+  line("minimal dialog program", minimal);
+  line("PTA_QX", program);
+  std::printf("  %-52s         %7.0f\n", "the host: its library calls alone", host.time.count());
+  PrintFigure("first window, over the minimal program", program.firstWindow / minimal.firstWindow,
+              1.5, "");
+  PrintFigure("dialog ready, over 1.5 minimal starts and the host",
+              program.ready / (1.5 * minimal.ready + host.time), 1.0, "");
+  if (program.megabytes > 0) {
+    PrintFigure("private memory above the minimal program", program.megabytes - minimal.megabytes,
+                10, " MB");
+  } else {
+    std::puts("  private memory: this system does not tell");
+  }
+}
+
+std::wstring TextOf(const std::wstring& path) {
+  std::FILE* const file = _wfopen(path.c_str(), L"rb");
+  if (file == nullptr) throw driver::DriverError(L"Cannot read " + path);
+  std::string bytes;
+  for (int c = std::fgetc(file); c != EOF; c = std::fgetc(file)) bytes += static_cast<char>(c);
+  std::fclose(file);
+  return driver::ToWide(bytes);
+}
+
+void Measure(int rounds) {
+  const terminal::Registered registered;
+  terminal::PracticeTerminal terminal(L"ordinary");
+  const std::wstring own = terminal::TestProgram();
+  const std::wstring folder = own.substr(0, own.find_last_of(L'\\') + 1);
+  const std::wstring booking = TextOf(folder + L"pnrs\\ordinary.pnr");
+  Start minimal;
+  Start program;
+  for (int round = 0; round < rounds; ++round) {
+    const Start first = bench::StartOnce(folder + L"pta-minimal.exe", ID_MINIMAL_OK);
+    terminal.Load(booking);
+    const Start second = bench::StartOnce(folder + L"PTA_QX.exe", ID_cmdOK);
+    minimal = round == 0 ? first : bench::Least(minimal, first);
+    program = round == 0 ? second : bench::Least(program, second);
+  }
+  terminal.Load(booking);
+  hostlib::com::InstalledObjects installed;
+  hostlib::com::ComLibrary library(installed);
+  Print(minimal, program, bench::MeasureHostTime(library, rounds));
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+  try {
+    const hostlib::com::Apartment apartment([] { return false; });
+    Measure(count > 1 ? std::atoi(arguments[1]) : 9);
+    return 0;
+  } catch (const common::RunTimeError& error) {
+    std::puts(common::ToUtf8(error.description()).c_str());
+  } catch (const client::Failure& failure) {
+    std::printf("the terminal: %s\n", common::ToUtf8(failure.text).c_str());
+  } catch (const std::exception& error) {
+    std::puts(error.what());
+  }
+  return 1;
+}

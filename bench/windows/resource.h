@@ -1,0 +1,3 @@
+#pragma once
+
+#define ID_MINIMAL_OK 1001
