@@ -4,7 +4,8 @@ say() { printf '== %s\n' "$*"; }
 
 # install_missing PART...: installs the Debian packages of these parts that are not there yet.
 #   native    compiler, CMake, Ninja, ccache and GoogleTest's sources
-#   windows   the cross compiler, the type library compiler and its headers, Wine with its fonts, a virtual display, ImageMagick
+#   windows   the cross compilers, the type library compiler and its headers, Wine with its fonts, a virtual display, ImageMagick
+#   packaging the installer's compiler and zip
 #   checks    clang-format
 #   coverage  gcovr
 #   bench     Google Benchmark, and the counter of instructions
@@ -15,9 +16,10 @@ install_missing() {
     case $part in
       native) wanted+=(g++ googletest) ;;
       windows)
-        wanted+=(g++-mingw-w64-x86-64-posix mingw-w64-tools libwine-dev googletest wine64
-          fonts-wine xvfb imagemagick util-linux locales)
+        wanted+=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools libwine-dev
+          googletest wine64 fonts-wine xvfb imagemagick util-linux locales)
         ;;
+      packaging) wanted+=(nsis zip git) ;;
       checks) wanted+=(clang-format git) ;;
       coverage) wanted+=(gcovr) ;;
       bench) wanted+=(libbenchmark-dev valgrind) ;;

@@ -1,18 +1,29 @@
 # What the scripts that run Windows programs under Wine share; to be sourced by Bash.
 #
+#   wine_is_32_bit FOLDER       from here on the 32-bit Wine of that folder (see make-wine32)
 #   wine_use PREFIX [managed]   sets the environment for a prefix, and makes it when it is not there;
 #                               PTA_DPI is the density of its screen, where 96 is usual
 #   wine_own_display PREFIX     sets DISPLAY to a virtual display that belongs to the prefix
 #   wine_end                    ends everything that runs in the prefix
 #   wine_run PROGRAM ...        runs a program in it, and waits for it alone
 
-wine_loader=$(command -v wine64 || echo /usr/lib/wine/wine64)
-wine_server=$(command -v wineserver || echo /usr/lib/wine/wineserver)
+wine_loader=("$(command -v wine64 || echo /usr/lib/wine/wine64)")
+wine_server=("$(command -v wineserver || echo /usr/lib/wine/wineserver)")
+wine_arch=win64
+
+wine_is_32_bit() {
+  local -a enter=("$(dirname "${BASH_SOURCE[0]}")/in-wine32" "$1")
+  wine_loader=("${enter[@]}" /usr/lib/wine/wine)
+  wine_server=("${enter[@]}" /usr/lib/wine/wineserver32)
+  wine_arch=win32
+  # The loader's own search ends at a shell script, and the folder has no shell.
+  export WINESERVER=/usr/lib/wine/wineserver32
+}
 
 # "managed" leaves the windows to a window manager; without it Wine places and focuses them itself,
 # which needs no window manager and is what the driven windows are made for.
 wine_use() {
-  export WINEPREFIX=$1 WINEARCH=win64 WINEDEBUG=-all
+  export WINEPREFIX=$1 WINEARCH=$wine_arch WINEDEBUG=-all
   # Nothing may ask questions while a prefix is made, nor write menus into the user's desktop.
   export WINEDLLOVERRIDES='mscoree,mshtml=;winemenubuilder.exe=d'
   local managed=N
@@ -46,10 +57,10 @@ REGEDIT4
 "Managed"="$1"
 REG
   {
-    env -u DISPLAY "$wine_loader" wineboot -i
-    env -u DISPLAY "$wine_loader" winecfg -v win10
-    env -u DISPLAY "$wine_loader" regedit /S "Z:${settings//\//\\}"
-    "$wine_server" -w
+    env -u DISPLAY "${wine_loader[@]}" wineboot -i
+    env -u DISPLAY "${wine_loader[@]}" winecfg -v win10
+    env -u DISPLAY "${wine_loader[@]}" regedit /S "Z:${settings//\//\\}"
+    "${wine_server[@]}" -w
   } >"$WINEPREFIX.log" 2>&1 </dev/null {wine_lock}>&-
   # Debian's Wine looks for its own fonts in the prefix alone; without them every text is set in
   # another, wider face.
@@ -64,8 +75,8 @@ wine_use_dpi() {
   [[ -s $WINEPREFIX.dpi ]] && known=$(<"$WINEPREFIX.dpi")
   [[ $1 == "$known" ]] && return
   {
-    "$wine_server" -p120 || true
-    env -u DISPLAY "$wine_loader" reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD \
+    "${wine_server[@]}" -p120 || true
+    env -u DISPLAY "${wine_loader[@]}" reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD \
       /d "$1" /f
   } >/dev/null 2>&1 </dev/null {wine_lock}>&-
   echo "$1" >"$WINEPREFIX.dpi"
@@ -78,7 +89,7 @@ wine_own_display() {
   flock "$display_lock"
   [[ -s $state ]] && number=$(<"$state")
   if [[ -z $number ]] || ! [[ -S /tmp/.X11-unix/X$number ]] || ! wine_display_answers "$1"; then
-    "$wine_server" -k >/dev/null 2>&1 || true
+    "${wine_server[@]}" -k >/dev/null 2>&1 || true
     rm -f "$state"
     setsid Xvfb -displayfd 3 -terminate -screen 0 "${PTA_SCREEN:-1600x1200x24}" \
       -nolisten tcp 3>"$state" >/dev/null 2>&1 </dev/null {display_lock}>&- &
@@ -102,14 +113,14 @@ wine_display_answers() { kill -0 "$(<"$1.display.pid")" 2>/dev/null; }
 wine_run() {
   local output status=0
   output=$(mktemp)
-  "$wine_server" -p120 >/dev/null 2>&1 </dev/null || true
-  "$wine_loader" "$@" >"$output" 2>&1 </dev/null || status=$?
+  "${wine_server[@]}" -p120 >/dev/null 2>&1 </dev/null || true
+  "${wine_loader[@]}" "$@" >"$output" 2>&1 </dev/null || status=$?
   tr -d '\r' <"$output"
   rm -f "$output"
   return "$status"
 }
 
 wine_end() {
-  "$wine_server" -k >/dev/null 2>&1 </dev/null || true
-  "$wine_server" -w >/dev/null 2>&1 </dev/null || true
+  "${wine_server[@]}" -k >/dev/null 2>&1 </dev/null || true
+  "${wine_server[@]}" -w >/dev/null 2>&1 </dev/null || true
 }

@@ -35,6 +35,25 @@ TEST_F(Binding, CallsTheMemberThatStandsInTheSlot) {
   EXPECT_EQ(server->calls, (std::vector<DISPID>{203, 204, 205}));
 }
 
+TEST_F(Binding, ALibraryOfTheOtherWidthHasItsSlotsInTheSamePlaces) {
+  types_ = LoadTypes(Types::kOtherWidth);
+  const auto server = InstallSession();
+  const auto session = Made(L"TerminalSession");
+  session->Call(9, {});
+  session->Call(10, {Value(L"x")});
+  session->Call(16, {});
+  EXPECT_EQ(server->calls, (std::vector<DISPID>{203, 204, 210}));
+}
+
+TEST_F(Binding, InheritedOperationsOfTheOtherWidthKeepTheirSlots) {
+  types_ = LoadTypes(Types::kOtherWidth);
+  const auto server = Install(L"TstListRequest", __uuidof(::TestList), __uuidof(IList));
+  const auto list = Made(L"TstListRequest");
+  list->Call(8, {});
+  list->Call(10, {Value(L"response")});
+  EXPECT_EQ(server->calls, (std::vector<DISPID>{602, 604}));
+}
+
 TEST_F(Binding, DoesNotCountTheLanguageAndTheResultAsArguments) {
   const auto server = InstallSession();
   Made(L"TerminalSession")->Call(15, {Value(L"x")});

@@ -10,6 +10,12 @@ using hostlib::LibraryError;
 using hostlib::Value;
 using Outcome = hostlib::LibraryError::Outcome;
 
+HRESULT STDMETHODCALLTYPE FillInLate(EXCEPINFO* info) {
+  info->scode = 77;
+  info->bstrDescription = SysAllocString(L"Filled in late");
+  return S_OK;
+}
+
 class Failures : public ComBench {
  protected:
   Failures() : server_(Install(L"TerminalSession", __uuidof(::TestSession), __uuidof(ISession))) {}
@@ -52,11 +58,7 @@ TEST_F(Failures, AShortErrorCodeIsTheNumberWhenThereIsNoOther) {
 
 TEST_F(Failures, WhatTheLibraryLeftForLaterIsFetched) {
   const auto error = FailureWith([](const Received& call) {
-    call.exception->pfnDeferredFillIn = [](EXCEPINFO* info) -> HRESULT {
-      info->scode = 77;
-      info->bstrDescription = SysAllocString(L"Filled in late");
-      return S_OK;
-    };
+    call.exception->pfnDeferredFillIn = FillInLate;
     return DISP_E_EXCEPTION;
   });
   EXPECT_EQ(error.number(), 77);

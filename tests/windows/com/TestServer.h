@@ -20,7 +20,7 @@ using hostlib::com::Variant;
 using Microsoft::WRL::ComPtr;
 
 /// The type libraries inside the test program, by their resource numbers.
-enum class Types { kGood = 1, kLacksSlot = 2, kOtherCount = 3 };
+enum class Types { kGood = 1, kLacksSlot = 2, kOtherCount = 3, kOtherWidth = 4 };
 TypeLibrary LoadTypes(Types types);
 
 /// One call as it arrives at the library.
