@@ -44,6 +44,7 @@ HMENU NewTerminalMenu(const std::vector<std::wstring>& bookings) {
   Add(terminal, Command::kCopyTranscript, L"&Copy the transcript");
   AddLine(terminal);
   Add(terminal, Command::kEnd, L"E&nd");
+  Add(AddMenu(bar, L"Hel&p"), Command::kAbout, L"&About the practice terminal...");
   return bar;
 }
 

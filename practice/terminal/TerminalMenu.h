@@ -19,6 +19,7 @@ enum class Command : WORD {
   kBehaveWell,
   kCopyTranscript,
   kEnd,
+  kAbout,
   kFirstBooking = 1000,  ///< and one a booking from there on
 };
 

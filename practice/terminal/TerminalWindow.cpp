@@ -9,9 +9,11 @@
 
 #include <array>
 
+#include "practice/terminal/AboutBox.h"
 #include "practice/terminal/Clipboard.h"
 #include "practice/terminal/TerminalMenu.h"
 #include "practice/terminal/Waiting.h"
+#include "practice/terminal/resources.h"
 
 namespace practice::terminal {
 namespace {
@@ -28,7 +30,7 @@ void RegisterWindowClass(WNDPROC receive) {
   description.cbSize = sizeof description;
   description.lpfnWndProc = receive;
   description.hInstance = GetModuleHandleW(nullptr);
-  description.hIcon = LoadIconW(nullptr, IDI_APPLICATION);
+  description.hIcon = LoadIconW(description.hInstance, MAKEINTRESOURCEW(IDI_TERMINAL));
   description.hCursor = LoadCursorW(nullptr, IDC_ARROW);
   description.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
   description.lpszClassName = kTerminalClass;
@@ -219,6 +221,9 @@ void TerminalWindow::Do(WORD command) {
       break;
     case Command::kCopyTranscript:
       PutOnClipboard(window_, desk.transcript());
+      break;
+    case Command::kAbout:
+      ShowAbout(window_);
       break;
     case Command::kEnd:
       PostMessageW(window_, WM_CLOSE, 0, 0);

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <windows.h>
+
+namespace practice::terminal {
+
+inline constexpr wchar_t kAboutTitle[] = L"About the practice terminal";
+
+/// Says what this program is, and puts what a help desk asks for on the clipboard. Returns when the
+/// box is closed; scripts are served meanwhile.
+void ShowAbout(HWND owner);
+
+}  // namespace practice::terminal
