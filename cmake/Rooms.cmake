@@ -33,6 +33,16 @@ if(PTA_SANITIZE)
                       -fno-omit-frame-pointer -g1)
   add_link_options(-fsanitize=address,undefined)
 endif()
+if(PTA_FUZZ)
+  add_compile_options(-fsanitize=fuzzer-no-link -O1)
+endif()
+if(PTA_COVERAGE)
+  add_link_options(--coverage)
+  # The rooms' own copies of what their headers define come first: those are counted, and not the
+  # ones that the tests were compiled with.
+  set(CMAKE_CXX_LINK_EXECUTABLE
+      "<CMAKE_CXX_COMPILER> <FLAGS> <CMAKE_CXX_LINK_FLAGS> <LINK_FLAGS> -Wl,--whole-archive <LINK_LIBRARIES> -Wl,--no-whole-archive <OBJECTS> -o <TARGET>")
+endif()
 
 # pta_room(FOLDER [USES FOLDER...]): the sources of one folder, without its subfolders, as a library
 # that may use those of the folders named.
@@ -48,6 +58,10 @@ function(pta_room folder)
     set(scope INTERFACE)
   endif()
   target_link_libraries(${target} ${scope} pta_flags)
+  if(PTA_COVERAGE AND sources)
+    # Only the rooms are counted, and as they are written: a sanitizer would add branches of its own.
+    target_compile_options(${target} PRIVATE --coverage -fno-sanitize=all)
+  endif()
   foreach(used IN LISTS ROOM_USES)
     string(REPLACE "/" "_" name "pta_${used}")
     target_link_libraries(${target} ${scope} ${name})

@@ -7,6 +7,7 @@ say() { printf '== %s\n' "$*"; }
 #   windows   the cross compilers, the type library compiler and its headers, Wine with its fonts, a virtual display, ImageMagick
 #   packaging the installer's compiler and zip
 #   checks    clang-format
+#   fuzz      clang with its libFuzzer and sanitizers
 #   coverage  gcovr
 #   bench     Google Benchmark, and the counter of instructions
 install_missing() {
@@ -20,6 +21,7 @@ install_missing() {
           googletest wine64 fonts-wine xvfb imagemagick util-linux locales)
         ;;
       packaging) wanted+=(nsis zip git) ;;
+      fuzz) wanted+=(clang libclang-rt-14-dev) ;;
       checks) wanted+=(clang-format git) ;;
       coverage) wanted+=(gcovr) ;;
       bench) wanted+=(libbenchmark-dev valgrind) ;;
