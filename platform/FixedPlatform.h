@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <map>
 #include <set>
 
 #include "platform/Platform.h"
@@ -13,12 +14,19 @@ class FixedPlatform : public Platform {
  public:
   std::wstring folder = L"C:\\PTA";
   std::set<std::wstring, std::less<>> files;
+  /// By section and key; whatever the file.
+  std::map<std::pair<std::wstring, std::wstring>, std::wstring> iniValues;
   std::chrono::year_month_day today{std::chrono::year(2007), std::chrono::month(2),
                                     std::chrono::day(20)};
   std::string decimal = ",";
 
   std::wstring ProgramFolder() const override { return folder; }
   bool FileExists(std::wstring_view path) const override { return files.contains(path); }
+  std::wstring IniValue(const std::wstring&, const std::wstring& section,
+                        const std::wstring& key) const override {
+    const auto found = iniValues.find({section, key});
+    return found == iniValues.end() ? std::wstring() : found->second;
+  }
   std::chrono::year_month_day Today() const override { return today; }
 
   std::wstring ShortDateText(std::chrono::year_month_day date) const override {

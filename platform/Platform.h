@@ -20,6 +20,9 @@ class Platform {
   /// The folder the program was started from; may or may not end in a backslash.
   virtual std::wstring ProgramFolder() const = 0;
   virtual bool FileExists(std::wstring_view path) const = 0;
+  /// A value of an INI file, as the system's profile functions read it; "" when it is not there.
+  virtual std::wstring IniValue(const std::wstring& path, const std::wstring& section,
+                                const std::wstring& key) const = 0;
 
   virtual std::chrono::year_month_day Today() const = 0;
   /// A date in the user's short form, and such a text read back (nothing when it is no date).

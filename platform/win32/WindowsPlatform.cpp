@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include "platform/win32/ProfileValue.h"
 #include "platform/win32/ShortDate.h"
 
 namespace platform {
@@ -48,6 +49,11 @@ std::wstring WindowsPlatform::ProgramFolder() const {
 bool WindowsPlatform::FileExists(std::wstring_view path) const {
   const DWORD attributes = GetFileAttributesW(std::wstring(path).c_str());
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+}
+
+std::wstring WindowsPlatform::IniValue(const std::wstring& path, const std::wstring& section,
+                                       const std::wstring& key) const {
+  return ReadProfileValue(path, section, key);
 }
 
 std::chrono::year_month_day WindowsPlatform::Today() const {

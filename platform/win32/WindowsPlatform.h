@@ -9,6 +9,8 @@ class WindowsPlatform : public Platform {
  public:
   std::wstring ProgramFolder() const override;
   bool FileExists(std::wstring_view path) const override;
+  std::wstring IniValue(const std::wstring& path, const std::wstring& section,
+                        const std::wstring& key) const override;
   std::chrono::year_month_day Today() const override;
   std::wstring ShortDateText(std::chrono::year_month_day date) const override;
   std::optional<std::chrono::year_month_day> ReadShortDate(std::wstring_view text) const override;

@@ -72,7 +72,8 @@ class Stage {
         library_({host_, platform_, ini_, userValues_, desktop},
                  {scene.attachRefused, scene.sessionRunning}),
         recorded_(library_, recorder_),
-        plain_(scene.recordCalls ? static_cast<hostlib::Library&>(recorded_) : library_) {
+        plain_(scene.recordCalls ? static_cast<hostlib::Library&>(recorded_) : library_),
+        run_(scene.run) {
     host_.LoadBooking(scene.booking);
     if (scene.prepare) scene.prepare(host_);
     outcome_.pnrBefore = host_.PnrText();
@@ -84,7 +85,8 @@ class Stage {
 
   void Run() {
     hostlib::Library& library = decorated_ ? *decorated_ : plain_;
-    outcome_.exitCode = app::RunProgram(library, desktop_, platform_);
+    outcome_.exitCode =
+        run_ ? run_(library, desktop_, platform_) : app::RunProgram(library, desktop_, platform_);
   }
 
   RehearsalOutcome Outcome() {
@@ -110,6 +112,7 @@ class Stage {
   hostlib::InterposedLibrary recorded_;
   hostlib::Library& plain_;  ///< what a decorator, if any, stands before
   std::unique_ptr<hostlib::Library> decorated_;
+  decltype(RehearsalScene::run) run_;
   RehearsalOutcome outcome_;
 };
 

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "hostlib/Object.h"
+#include "platform/Platform.h"
 #include "practice/host/Host.h"
 #include "ui/controls/Desktop.h"
 
@@ -33,6 +34,8 @@ struct RehearsalScene {
   std::function<void(Host&)> prepare;
   /// Stands between the program and the library, when given.
   std::function<std::unique_ptr<hostlib::Library>(hostlib::Library&)> decorate;
+  /// Runs the program in the place of app::RunProgram, when given.
+  std::function<int(hostlib::Library&, ui::Desktop&, const platform::Platform&)> run;
 };
 
 /// What a rehearsal has shown.

@@ -32,6 +32,10 @@ class InputGate {
 /// Where forms, message boxes and the beep appear.
 class Desktop : public common::MessageBoxes {
  public:
+  Desktop() = default;
+  Desktop(const Desktop&) = delete;
+  Desktop& operator=(const Desktop&) = delete;
+
   /// Loads the form and shows it; does not wait.
   virtual void Show(Form& form) = 0;
   /// Loads the form, shows it, and returns when it is hidden or unloaded. A form that unloads
@@ -46,10 +50,15 @@ class Desktop : public common::MessageBoxes {
   /// handler throws.
   virtual void Run() = 0;
 
-  InputGate& input() { return input_; }
+  InputGate& input() { return *input_; }
+
+ protected:
+  /// A desktop before another one: there is one gate for both.
+  explicit Desktop(InputGate& input) : input_(&input) {}
 
  private:
-  InputGate input_;
+  InputGate own_;
+  InputGate* input_ = &own_;
 };
 
 }  // namespace ui

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -48,6 +49,9 @@ class Form {
   bool KeyPreview() const { return keyPreview_; }
   void SetKeyPreview(bool preview);
 
+  /// Expires with the form, for whoever looks at it without owning it.
+  std::weak_ptr<const void> Life() const { return life_; }
+
   bool IsLoaded() const { return loaded_; }
   bool IsVisible() const { return visible_; }
   void Hide();
@@ -83,6 +87,7 @@ class Form {
 
   std::wstring name_;
   std::wstring caption_;
+  std::shared_ptr<const bool> life_ = std::make_shared<const bool>(true);
   std::vector<Control*> controls_;
   MousePointer pointer_ = MousePointer::kDefault;
   bool keyPreview_ = false;

@@ -4,6 +4,8 @@
 
 #include <filesystem>
 
+#include "platform/win32/ProfileValue.h"
+
 namespace practice {
 namespace {
 
@@ -40,22 +42,7 @@ WindowsProfiles::WindowsProfiles() : writer_({FromAnsi, ToAnsi}) {}
 
 std::wstring WindowsProfiles::Read(std::wstring_view path, std::wstring_view section,
                                    std::wstring_view key) {
-  // An empty name would ask for the list of all names.
-  if (section.empty() || key.empty()) return {};
-  const std::wstring file = Absolute(path);
-  const std::wstring sectionName(section);
-  const std::wstring keyName(key);
-  std::wstring value(256, L'\0');
-  for (;;) {
-    const auto size = static_cast<DWORD>(value.size());
-    const DWORD length = ::GetPrivateProfileStringW(sectionName.c_str(), keyName.c_str(), L"",
-                                                    value.data(), size, file.c_str());
-    if (length < size - 1) {
-      value.resize(length);
-      return value;
-    }
-    value.resize(value.size() * 2);
-  }
+  return platform::ReadProfileValue(Absolute(path), std::wstring(section), std::wstring(key));
 }
 
 bool WindowsProfiles::Write(std::wstring_view path, std::wstring_view section,

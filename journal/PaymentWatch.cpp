@@ -1,0 +1,81 @@
+#include "journal/PaymentWatch.h"
+
+#include <algorithm>
+
+#include "common/Text.h"
+
+namespace journal {
+namespace {
+
+namespace operations = hostlib::operations;
+
+constexpr std::wstring_view kPaymentKeys[] = {L"strKeyMCOFPElement", L"strKeyFPElementValue",
+                                              L"strKeyFOPArray()", L"strTSMListFOPArray"};
+constexpr std::wstring_view kPaymentControl = L"txtFormOfPayment";
+/// A text of any element; only the builder that the bag goes to tells of which.
+constexpr std::wstring_view kElementTextKey = L"strKeyText";
+
+constexpr std::wstring_view kDisplayMarks[] = {L"FP ", L"FOP "};
+
+/// "7 CASH" as "CASH": a display may name the element that the value is from.
+std::wstring_view WithoutNumber(std::wstring_view text) {
+  const std::size_t digits = std::min(text.find_first_not_of(L"0123456789"), text.size());
+  const bool isNumbered = digits > 0 && digits < text.size() && text[digits] == L' ';
+  return isNumbered ? text.substr(digits + 1) : text;
+}
+
+bool Is(const hostlib::CallInfo& call, const hostlib::Operation& operation) {
+  return call.operation != nullptr && call.object == operation.object &&
+         call.interfaceNumber == operation.interfaceNumber && call.slot == operation.slot;
+}
+
+std::wstring_view KeyOf(const hostlib::CallInfo& call) {
+  const auto* key = call.arguments.empty() ? nullptr : call.arguments.front().If<std::wstring>();
+  return key == nullptr ? std::wstring_view() : *key;
+}
+
+bool IsPaymentKey(std::wstring_view key) {
+  return std::ranges::find(kPaymentKeys, key) != std::end(kPaymentKeys);
+}
+
+}  // namespace
+
+bool HoldsPayment(std::wstring_view controlName) { return controlName == kPaymentControl; }
+
+void PaymentWatch::Before(const hostlib::CallInfo& call) {
+  if (Is(call, operations::pnr_element_builder::kExecuteFP)) Declare(elementText_);
+  if (!Is(call, operations::parameter_bag::kSetValue) || call.arguments.size() != 2) return;
+  const std::wstring_view key = KeyOf(call);
+  if (key == kElementTextKey) elementText_ = call.arguments[1];
+  if (IsPaymentKey(key)) Declare(call.arguments[1]);
+}
+
+void PaymentWatch::After(const hostlib::CallInfo& call, const hostlib::Value& answer) {
+  if (Is(call, operations::parameter_bag::kGetValue)) {
+    const bool isPayment = IsPaymentKey(KeyOf(call));
+    listHoldsPayments_ = isPayment && answer.IsObject();
+    if (isPayment) Declare(answer);
+  } else if (call.object == operations::kList && listHoldsPayments_) {
+    Declare(answer);
+  }
+}
+
+void PaymentWatch::Display(std::wstring_view answer) {
+  for (const std::wstring_view mark : kDisplayMarks) {
+    for (std::size_t at = answer.find(mark); at != answer.npos; at = answer.find(mark, at + 1)) {
+      if (at > 0 && common::IsLetter(answer[at - 1])) continue;
+      const std::size_t from = at + mark.size();
+      const std::size_t end = std::min(answer.find_first_of(L"\r\n,;[", from), answer.size());
+      masking_.Declare(WithoutNumber(answer.substr(from, end - from)));
+    }
+  }
+}
+
+void PaymentWatch::Declare(const hostlib::Value& value) {
+  if (const auto* text = value.If<std::wstring>()) masking_.Declare(*text);
+  if (const auto* texts = value.If<hostlib::TextArray>()) {
+    for (const std::wstring& text : texts->items) masking_.Declare(text);
+  }
+}
+
+}  // namespace journal

@@ -1,0 +1,75 @@
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "journal/CardDigits.h"
+
+namespace journal {
+namespace {
+
+// The text as it shows: hidden digits as "*", the last four of a card as "t".
+std::wstring Shown(std::wstring text) {
+  const std::vector<CardMark> marks = MarkCards(text);
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (marks[i] == CardMark::kHidden) text[i] = L'*';
+    if (marks[i] == CardMark::kTail) text[i] = L't';
+  }
+  return text;
+}
+
+TEST(CardDigits, ShowTheLastFourOfARunThatPassesTheCheckDigit) {
+  EXPECT_EQ(Shown(L"CCVI4929876538712343/1209"), L"CCVI************tttt/1209");
+}
+
+TEST(CardDigits, LeaveARunThatFailsTheCheckDigit) {
+  EXPECT_EQ(Shown(L"4929876538712344"), L"4929876538712344");
+}
+
+TEST(CardDigits, AreThirteenToNineteen) {
+  EXPECT_EQ(Shown(L"000000000000"), L"000000000000");
+  EXPECT_EQ(Shown(L"0000000000000"), L"*********tttt");
+  EXPECT_EQ(Shown(L"0000000000000000000"), L"***************tttt");
+}
+
+TEST(CardDigits, MayHaveBlanksHyphensPointsAndLineBreaksBetweenThem) {
+  EXPECT_EQ(Shown(L"4929 8765 3871 2343"), L"**** **** **** tttt");
+  EXPECT_EQ(Shown(L"4929-8765-3871-2343"), L"****-****-****-tttt");
+  EXPECT_EQ(Shown(L"4929.8765.3871.2343"), L"****.****.****.tttt");
+  EXPECT_EQ(Shown(L"4929 - 8765\u00A03871\u20132343"), L"**** - ****\u00A0****\u2013tttt");
+  EXPECT_EQ(Shown(L"FP CC49298765\r\n     38712343"), L"FP CC********\r\n     ****tttt");
+}
+
+TEST(CardDigits, MayNotHaveAnythingElseBetweenThem) {
+  EXPECT_EQ(Shown(L"49298765/38712343"), L"49298765/38712343");
+  EXPECT_EQ(Shown(L"49298765                 38712343"), L"49298765                 38712343");
+}
+
+TEST(CardDigits, AreFoundBehindOtherNumbersAndBeforeThem) {
+  EXPECT_EQ(Shown(L"7 4929876538712343"), L"7 ************tttt");
+  EXPECT_EQ(Shown(L"4929876538712343 1209"), L"************tttt 1209");
+  EXPECT_EQ(Shown(L"12-4929 8765 3871 2343-0709"), L"12-**** **** **** tttt-0709");
+}
+
+TEST(CardDigits, AreHiddenInARunTooLongForACard) {
+  const std::wstring shown = Shown(L"99994929876538712343");
+  EXPECT_EQ(shown.find(L"4929"), shown.npos);
+  EXPECT_EQ(shown.find(L"9876"), shown.npos);
+}
+
+TEST(CardDigits, ThatTwoCardsShareAreHiddenWhenEitherHidesThem) {
+  // The first thirteen are a card, and so are all sixteen.
+  EXPECT_EQ(Shown(L"0000000000000 000"), L"************t ttt");
+}
+
+TEST(CardDigits, OfADocumentNumberAreNoneUnlessItPasses) {
+  EXPECT_EQ(Shown(L"117-4012345678"), L"117-4012345678");
+}
+
+TEST(CardDigits, AreLookedForInAnyText) {
+  EXPECT_EQ(Shown(L""), L"");
+  EXPECT_EQ(Shown(L"- - -"), L"- - -");
+  EXPECT_EQ(Shown(std::wstring(100000, L'1')).size(), 100000u);
+}
+
+}  // namespace
+}  // namespace journal

@@ -1,0 +1,66 @@
+#include <gtest/gtest.h>
+
+#include "journal/Masking.h"
+
+namespace journal {
+namespace {
+
+std::wstring Masked(std::wstring_view value, std::wstring_view text) {
+  Masking masking;
+  masking.Declare(value);
+  return masking.Masked(text);
+}
+
+TEST(Masking, HidesADeclaredValueWhereverItStands) {
+  EXPECT_EQ(Masked(L"INVOICE 4711", L"CH 7 O/PT/INVOICE 4711;FPINVOICE 4711AGT"),
+            L"CH 7 O/PT/<payment>;FP<payment>AGT");
+}
+
+TEST(Masking, LeavesTheLastFourDigitsOfADeclaredCard) {
+  EXPECT_EQ(Masked(L"CCVI4929876538712343/1209", L"7 FP CCVI4929876538712343/1209 [P1]"),
+            L"7 FP <payment 2343> [P1]");
+}
+
+TEST(Masking, HidesACardThatNobodyDeclared) {
+  EXPECT_EQ(Masking().Masked(L"RM CARD 4929-8765-3871-2343"), L"RM CARD ****-****-****-2343");
+}
+
+TEST(Masking, DisregardsCaseBlanksAndLineBreaks) {
+  EXPECT_EQ(Masked(L"Invoice 4711", L"FP INVOICE4711"), L"FP <payment>");
+  EXPECT_EQ(Masked(L"INVOICE 4711", L"FP inv\r\n   oice  47\n11."), L"FP <payment>.");
+}
+
+TEST(Masking, HidesThePartsOfAValueOnTheirOwn) {
+  EXPECT_EQ(Masked(L"CASH/SEK500 + GRANT77/SEK660", L"CASH AND GRANT77"),
+            L"<payment> AND <payment>");
+  EXPECT_EQ(Masked(L"O/PT/CCXX123456/1209", L"CCXX123456"), L"<payment>");
+}
+
+TEST(Masking, LeavesAmountsAndPartsThatTellNothing) {
+  const std::wstring text = L"SEK500 AT 1209 ON PT";
+  EXPECT_EQ(Masked(L"O/PT/CASH/SEK500/1209", text), text);
+}
+
+TEST(Masking, HidesAShortValueOnlyAsAWord) {
+  EXPECT_EQ(Masked(L"CA", L"FP CA BY CARRIER OR X/CA"), L"FP <payment> BY CARRIER OR X/<payment>");
+}
+
+TEST(Masking, HidesTheLongerOfTwoValuesAndWhatTheyShare) {
+  Masking masking;
+  masking.Declare(L"CASHABCD");
+  masking.Declare(L"ABCDEFGH");
+  masking.Declare(L"CASH");
+  EXPECT_EQ(masking.Masked(L"CASHABCDEFGH CASHIER"), L"<payment> <payment>IER");
+}
+
+TEST(Masking, HidesTheRestOfACardOfWhichAPartIsDeclared) {
+  EXPECT_EQ(Masked(L"8765387", L"4929876538712343"), L"****<payment>*2343");
+}
+
+TEST(Masking, TakesAnEmptyValueForNone) {
+  EXPECT_EQ(Masked(L"  ", L"A  B"), L"A  B");
+  EXPECT_EQ(Masked(L"", L""), L"");
+}
+
+}  // namespace
+}  // namespace journal

@@ -1,0 +1,116 @@
+#include <gtest/gtest.h>
+
+#include "journal/Writer.h"
+#include "tests/journal/JournalBench.h"
+
+namespace journal {
+namespace {
+
+struct WriterTest : testing::Test {
+  HandClock clock;
+  FolderInMemory folder;
+  Writer writer{folder, clock};
+
+  std::wstring Body() {
+    const std::wstring heading = L"PTA_QX 1.2.3\nRun of 2007-02-20\n\n";
+    const std::wstring text = folder.Text();
+    EXPECT_TRUE(text.starts_with(heading));
+    return text.substr(std::min(heading.size(), text.size()));
+  }
+};
+
+TEST_F(WriterTest, PutsATimeBeforeOurWordsAndAMarkBeforeATextFromElsewhere) {
+  writer.Open(L"1.2.3");
+  clock.time += std::chrono::milliseconds(7005);
+  writer.Write(L"Words");
+  writer.Write(L"A text", L"one\rtwo\r\nthree\n\nfive\r\n");
+  EXPECT_EQ(Body(),
+            L"13:37:07.005 Words\n"
+            L"13:37:07.005 A text:\n"
+            L"    | one\n    | two\n    | three\n    | \n    | five\n");
+}
+
+TEST_F(WriterTest, LetsNoTextPassForALineOfOurs) {
+  writer.Open(L"1.2.3");
+  writer.Write(L"Record locator \"A\r\n13:37:00.000 Run ended\"");
+  writer.Write(L"A text", L"A\u20282\u0085\x1B[2J\x0B");
+  EXPECT_EQ(Body(),
+            L"13:37:00.000 Record locator \"A\uFFFD\uFFFD13:37:00.000 Run ended\"\n"
+            L"13:37:00.000 A text:\n"
+            L"    | A\uFFFD2\uFFFD\uFFFD[2J\uFFFD\n");
+}
+
+TEST_F(WriterTest, MasksItsWordsToo) {
+  writer.Open(L"1.2.3");
+  writer.masking().Declare(L"INVOICE");
+  writer.Write(L"Office \"invoice\"");
+  writer.Write(L"Record locator \"4929876538712343\"", L"FP INVOICE");
+  EXPECT_EQ(Body(),
+            L"13:37:00.000 Office \"<payment>\"\n"
+            L"13:37:00.000 Record locator \"************2343\":\n"
+            L"    | FP <payment>\n");
+}
+
+TEST_F(WriterTest, GoesOnInTheSameFileUnderTheBookingsName) {
+  writer.Open(L"1.2.3");
+  writer.Write(L"Before");
+  writer.NameAfter(L"ABC123");
+  writer.Write(L"After");
+  EXPECT_EQ(folder.Names(), std::vector<std::wstring>{L"PTA_2007-02-20_133700_ABC123.txt"});
+  EXPECT_EQ(Body(), L"13:37:00.000 Before\n13:37:00.000 After\n");
+}
+
+TEST_F(WriterTest, KeepsItsNameWhenAnotherBookingIsRead) {
+  writer.Open(L"1.2.3");
+  writer.NameAfter(L"ABC123");
+  writer.NameAfter(L"XYZ789");
+  EXPECT_EQ(folder.Names(), std::vector<std::wstring>{L"PTA_2007-02-20_133700_ABC123.txt"});
+}
+
+TEST_F(WriterTest, KeepsEveryLineWhenItCanNotBeRenamedAndTriesAgainAtTheEnd) {
+  writer.Open(L"1.2.3");
+  folder.takesNames = false;
+  writer.NameAfter(L"ABC123");
+  writer.Write(L"After");
+  EXPECT_EQ(folder.Names(), std::vector<std::wstring>{L"PTA_2007-02-20_133700.txt"});
+  EXPECT_EQ(Body(), L"13:37:00.000 After\n");
+  folder.takesNames = true;
+  writer.Finish();
+  EXPECT_EQ(folder.Names(), std::vector<std::wstring>{L"PTA_2007-02-20_133700_ABC123.txt"});
+}
+
+TEST_F(WriterTest, TakesTheNextNumberWhenANameIsTaken) {
+  folder.files = {{L"PTA_2007-02-20_133700.txt", "1"}, {L"PTA_2007-02-20_133700_ABC123.txt", "2"}};
+  writer.Open(L"1.2.3");
+  EXPECT_TRUE(folder.files.contains(L"PTA_2007-02-20_133700-2.txt"));
+  writer.NameAfter(L"ABC123");
+  EXPECT_TRUE(folder.files.contains(L"PTA_2007-02-20_133700_ABC123-2.txt"));
+  EXPECT_EQ(folder.files[L"PTA_2007-02-20_133700.txt"], "1");
+  EXPECT_EQ(folder.files[L"PTA_2007-02-20_133700_ABC123.txt"], "2");
+}
+
+TEST_F(WriterTest, IsNotNamedAfterALocatorThatIsNoPlainWord) {
+  writer.Open(L"1.2.3");
+  writer.NameAfter(L"..\\..\\X");
+  writer.Finish();
+  EXPECT_EQ(folder.Names(), std::vector<std::wstring>{L"PTA_2007-02-20_133700.txt"});
+}
+
+TEST_F(WriterTest, WritesNothingWhereNoFileCanBeMade) {
+  folder.takesFiles = false;
+  writer.Open(L"1.2.3");
+  writer.Write(L"Words");
+  writer.Write(L"Words", L"text");
+  writer.Secure();
+  writer.NameAfter(L"ABC123");
+  writer.Finish();
+  EXPECT_TRUE(folder.files.empty());
+}
+
+TEST(Seconds, HaveThreeDecimals) {
+  EXPECT_EQ(Seconds(std::chrono::milliseconds(0)), L"0.000 s");
+  EXPECT_EQ(Seconds(std::chrono::milliseconds(61005)), L"61.005 s");
+}
+
+}  // namespace
+}  // namespace journal
