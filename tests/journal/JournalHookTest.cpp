@@ -190,11 +190,16 @@ TEST_F(JournalHookTest, WritesTheLibrarysOwnLastErrorAsTheFailureSeenLast) {
 TEST_F(JournalHookTest, MasksAFormOfPaymentReadFromABag) {
   for (const wchar_t* key : {L"strKeyMCOFPElement", L"strKeyFPElementValue"}) {
     const std::wstring value = std::wstring(L"VALUE") + key;
-    ParameterBag bag(library);
-    bag.SetValue(key, Value(value));
-    bag.GetValue(key);
+    const auto answer = scripted.Bag({{key, Value(value)}});
+    scripted.Answer(operations::tst_list_request::kReadResponse, hostlib::ObjectPtr(answer));
+    hostlib::TstListRequest(library).ReadResponse(L"TST").GetValue(key);
     EXPECT_EQ(Written(L"CH 7 " + value), L"CH 7 <payment>");
   }
+}
+
+TEST_F(JournalHookTest, MasksAFormOfPaymentPutIntoABag) {
+  ParameterBag(library).SetValue(L"strKeyFPElementValue", Value(L"GRANT77"));
+  EXPECT_EQ(Written(L"CH 7 GRANT77"), L"CH 7 <payment>");
 }
 
 TEST_F(JournalHookTest, MasksTheFormsOfPaymentInAList) {
