@@ -68,7 +68,7 @@ Apartment::~Apartment() {
 
 bool AskToTryAgain() {
   return MessageBoxW(GetActiveWindow(),
-                     L"The Vantel session is busy and does not take the next step.\r\r"
+                     L"The Vantel session is busy and does not take the next step.\n\n"
                      L"Finish what it is waiting for, then choose Retry. Cancel gives the step up.",
                      common::kTitle.data(),
                      MB_RETRYCANCEL | MB_ICONEXCLAMATION | MB_SETFOREGROUND) == IDRETRY;

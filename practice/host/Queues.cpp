@@ -38,9 +38,7 @@ std::wstring Queues::PlaceText(const Place& place) {
          (place.category.empty() ? L"" : L" CAT " + place.category) + L" AT " + place.office;
 }
 
-void Queues::OpenAll() {
-  for (auto& [place, queue] : queues_) queue.state = State::kOn;
-}
+void Queues::OpenAll() { queues_.clear(); }
 
 Queues::State Queues::StateOf(const Place& place) const {
   const auto queue = queues_.find(place);

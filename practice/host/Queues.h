@@ -28,7 +28,7 @@ class Queues {
   static std::wstring PlaceText(const Place& place);
 
   void SetState(const Place& place, State state) { queues_[place].state = state; }
-  /// Every queue is on again; what is on them stays.
+  /// Every queue is on, and empty.
   void OpenAll();
   State StateOf(const Place& place) const;
   /// False when the PNR is there already. The queue must not be closed.

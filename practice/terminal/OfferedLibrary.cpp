@@ -1,5 +1,7 @@
 #include "practice/terminal/OfferedLibrary.h"
 
+#include <windows.h>
+
 #include "practice/library/PracticeObject.h"
 #include "practice/terminal/Waiting.h"
 
@@ -39,6 +41,13 @@ class DeskObject : public PracticeObject {
     OnSlot(14, [&desk](const Arguments& a) {
       const std::chrono::milliseconds time(a[0].Long());
       desk.SlowDown([time] { WaitAlive(time); });
+      return Value();
+    });
+    OnSlot(16, [&desk](const Arguments& a) {
+      const int last = desk.EntryCount() + a[0].Long();
+      desk.SlowDown([&desk, last] {
+        if (desk.EntryCount() >= last) TerminateProcess(GetCurrentProcess(), 1);
+      });
       return Value();
     });
     OnSlot(15, [&desk](const Arguments&) {

@@ -31,9 +31,20 @@ bool Write(HKEY root, const std::wstring& key, const std::wstring& text) {
          ERROR_SUCCESS;
 }
 
-bool IsFound() {
-  CLSID found = {};
-  return SUCCEEDED(CLSIDFromProgID(L"Vantel.ScriptGlobal", &found));
+std::wstring Read(HKEY root, const std::wstring& key) {
+  std::wstring text(1024, L'\0');
+  auto bytes = static_cast<DWORD>(text.size() * sizeof(wchar_t));
+  if (RegGetValueW(root, key.c_str(), nullptr, RRF_RT_REG_SZ, nullptr, text.data(), &bytes) !=
+      ERROR_SUCCESS) {
+    return {};
+  }
+  text.resize(bytes / sizeof(wchar_t) - 1);
+  return text;
+}
+
+/// The name is that of our class there, and of no other library's.
+bool IsOurs(HKEY root, const LibraryClass& kind) {
+  return Read(root, kClasses + ProgId(kind) + L"\\CLSID") == IdText(kind.id);
 }
 
 }  // namespace
@@ -47,12 +58,26 @@ bool Registration::WriteClasses(HKEY root) const {
     const std::wstring title = L"Vantel practice " + std::wstring(kind.name);
     written = written && Write(root, ProgId(kind), title) &&
               Write(root, ProgId(kind) + L"\\CLSID", IdText(kind.id)) && Write(root, id, title) &&
-              Write(root, id + L"\\LocalServer32", L"\"" + program_ + L"\"") &&
+              Write(root, id + L"\\LocalServer32", CommandLine()) &&
               Write(root, id + L"\\ProgID", ProgId(kind)) &&
               Write(root, id + L"\\TypeLib", library);
   }
   return written;
 }
+
+bool Registration::IsFound() const {
+  for (const LibraryClass& kind : LibraryClasses()) {
+    if (kind.use == ClassUse::kNonCreatable) continue;
+    CLSID found = {};
+    const bool leadsHere =
+        SUCCEEDED(CLSIDFromProgID(ProgId(kind).c_str(), &found)) && found == kind.id &&
+        Read(HKEY_CLASSES_ROOT, L"CLSID\\" + IdText(kind.id) + L"\\LocalServer32") == CommandLine();
+    if (!leadsHere) return false;
+  }
+  return true;
+}
+
+std::wstring Registration::CommandLine() const { return L"\"" + program_ + L"\""; }
 
 bool Registration::Register() const {
   std::wstring path = program_;
@@ -66,7 +91,7 @@ bool Registration::Register() const {
 void Registration::Unregister() const {
   for (const HKEY root : {HKEY_CURRENT_USER, HKEY_LOCAL_MACHINE}) {
     for (const LibraryClass& kind : LibraryClasses()) {
-      RegDeleteTreeW(root, (kClasses + ProgId(kind)).c_str());
+      if (IsOurs(root, kind)) RegDeleteTreeW(root, (kClasses + ProgId(kind)).c_str());
       RegDeleteTreeW(root, (kClasses + (L"CLSID\\" + IdText(kind.id))).c_str());
     }
   }

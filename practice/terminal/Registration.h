@@ -10,12 +10,15 @@ class Registration {
  public:
   explicit Registration(const TypeLibrary& types) : types_(types), program_(ProgramPath()) {}
 
-  /// False when the classes cannot be found afterwards.
+  /// False when scripts would not come to this program afterwards.
   bool Register() const;
+  /// Leaves the names that another library has taken.
   void Unregister() const;
 
  private:
   bool WriteClasses(HKEY root) const;
+  bool IsFound() const;
+  std::wstring CommandLine() const;
 
   const TypeLibrary& types_;
   std::wstring program_;

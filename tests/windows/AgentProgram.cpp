@@ -2,6 +2,7 @@
 // the tests do; then prints what the host was asked and what has become of the PNR.
 //
 //   drive BOOKING PROGRAM AGENT [FOLDER]   FOLDER takes a picture of every window, as NN-NAME.bmp
+//   drive --wait                           until a terminal that others have opened can be used
 
 #include <objbase.h>
 #include <windows.h>
@@ -86,15 +87,26 @@ int Drive(int count, wchar_t** arguments) {
   return 1;
 }
 
+int WaitForATerminal() {
+  try {
+    terminal::WaitUntilOpen();
+    return 0;
+  } catch (const std::exception& error) {
+    std::puts(error.what());
+    return 1;
+  }
+}
+
 }  // namespace
 
 int wmain(int count, wchar_t** arguments) {
-  if (count < 4) {
-    std::puts("usage: drive BOOKING PROGRAM AGENT [FOLDER]");
+  const bool onlyWaits = count == 2 && std::wstring_view(arguments[1]) == L"--wait";
+  if (!onlyWaits && count < 4) {
+    std::puts("usage: drive BOOKING PROGRAM AGENT [FOLDER] | drive --wait");
     return 2;
   }
   CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
-  const int result = Drive(count, arguments);
+  const int result = onlyWaits ? WaitForATerminal() : Drive(count, arguments);
   CoUninitialize();
   return result;
 }

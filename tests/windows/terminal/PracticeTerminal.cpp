@@ -22,6 +22,11 @@ bool SessionCanBeMade() {
   return SUCCEEDED(client::Make(L"TerminalSession", session));
 }
 
+HWND OpenWindow(const std::wstring& booking) {
+  Launch(Program(), booking.empty() ? booking : L"\"" + booking + L"\"");
+  return WaitUntilOpen();
+}
+
 void Register(const std::wstring& program) {
   if (Process(program, L"/regserver").Wait() == 0) return;
   throw driver::DriverError(program + L" can not be registered");
@@ -31,13 +36,17 @@ void Unregister(const std::wstring& program) { Process(program, L"/unregserver")
 
 }  // namespace
 
-PracticeTerminal::PracticeTerminal(const std::wstring& booking)
-    : process_(Program(), booking.empty() ? booking : L"\"" + booking + L"\"") {
-  driver::WaitUntil(L"the terminal is open", [this] {
-    window_ = FindWindowW(practice::terminal::kTerminalClass, nullptr);
-    return window_ != nullptr && IsWindowVisible(window_) && SessionCanBeMade();
+HWND WaitUntilOpen() {
+  HWND window = nullptr;
+  driver::WaitUntil(L"the terminal is open", [&window] {
+    window = FindWindowW(practice::terminal::kTerminalClass, nullptr);
+    return window != nullptr && IsWindowVisible(window) && SessionCanBeMade();
   });
+  return window;
 }
+
+PracticeTerminal::PracticeTerminal(const std::wstring& booking)
+    : window_(OpenWindow(booking)), process_(window_) {}
 
 PracticeTerminal::~PracticeTerminal() {
   try {
@@ -51,6 +60,13 @@ void PracticeTerminal::Close() {
   if (!process_.IsRunning()) return;
   PostMessageW(window_, WM_CLOSE, 0, 0);
   process_.Wait();
+}
+
+void PracticeTerminal::Kill() {
+  process_.Kill();
+  // Wine keeps the list of the classes on offer in this process, and would go on naming the dead
+  // terminal. It is started anew when it is needed.
+  KillAll(L"rpcss.exe");
 }
 
 void PracticeTerminal::Load(const std::wstring& booking) {
@@ -88,6 +104,8 @@ void PracticeTerminal::RefuseNext(const std::wstring& reason) {
 void PracticeTerminal::DropSession(bool answerOnly) {
   TellDesk(L"DropSession", client::Flag(answerOnly));
 }
+
+void PracticeTerminal::DieInEntry(int number) { TellDesk(L"DieInEntry", client::Number(number)); }
 
 Registered::Registered(std::wstring program) : program_(std::move(program)) { Register(program_); }
 

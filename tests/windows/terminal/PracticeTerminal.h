@@ -23,7 +23,7 @@ class PracticeTerminal {
   /// classes of a process that did not take them back.
   void Close();
   /// As the task manager does.
-  void Kill() { process_.Kill(); }
+  void Kill();
   bool IsRunning() const { return process_.IsRunning(); }
   HWND window() const { return window_; }
 
@@ -38,11 +38,18 @@ class PracticeTerminal {
   void SlowDown(int milliseconds);
   void RefuseNext(const std::wstring& reason);
   void DropSession(bool answerOnly);
+  /// The terminal's process ends in the middle of this entry, counted from now on.
+  void DieInEntry(int number);
 
  private:
+  HWND window_;
+  /// Not always the one that was started: a server without a window shows its own when it is asked.
   Process process_;
-  HWND window_ = nullptr;
 };
+
+/// Waits until scripts can use a terminal that is open or about to be, and gives its window. Throws
+/// driver::DriverError.
+HWND WaitUntilOpen();
 
 /// The classes of a terminal are in the registry in its lifetime.
 class Registered {

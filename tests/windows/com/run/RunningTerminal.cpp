@@ -26,14 +26,18 @@ RunningTerminal::~RunningTerminal() {
   std::filesystem::remove_all(platform_.folder, ignored);
 }
 
-practice::RehearsalOutcome RunningTerminal::Run(const practice::RehearsalScene& scene,
-                                                hostlib::CallHook& hook) {
-  practice::RehearsalOutcome outcome;
+void RunningTerminal::Set(const practice::RehearsalScene& scene) {
   if (scene.hasIni) WriteIni(scene.ini);
   platform_.today = scene.today;
   platform_.decimal = scene.decimal;
   StoreOffice(scene);
   terminal_->Load(scene.booking);
+}
+
+practice::RehearsalOutcome RunningTerminal::Run(const practice::RehearsalScene& scene,
+                                                hostlib::CallHook& hook) {
+  practice::RehearsalOutcome outcome;
+  Set(scene);
   outcome.pnrBefore = terminal_->PnrText();
   practice::ScriptedAgent agent(practice::ReadAgentScript(scene.agent));
   hostlib::InterposedLibrary hooked(library_, hook);

@@ -47,8 +47,14 @@ class RunningTerminal : public testing::Test {
   RunningTerminal();
   ~RunningTerminal() override;
 
-  void Start() { terminal_ = std::make_unique<terminal::PracticeTerminal>(); }
+  /// A new one; there is only one at a time.
+  void Start() {
+    terminal_ = nullptr;
+    terminal_ = std::make_unique<terminal::PracticeTerminal>();
+  }
 
+  /// The scene's booking, INI file and stored office.
+  void Set(const practice::RehearsalScene& scene);
   /// The program's whole run over the link, with the scene's booking, INI file and agent.
   practice::RehearsalOutcome Run(const practice::RehearsalScene& scene, hostlib::CallHook& hook);
 
