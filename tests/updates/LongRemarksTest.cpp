@@ -10,6 +10,15 @@ struct RemarkSource {
   void (*set)(EnteringBench&, std::size_t length);
 };
 
+/// What the program asks for here never gets so long; what the builder makes of it may.
+void LengthenMoneyRemark(EnteringBench& bench, std::size_t length) {
+  bench.scripted.On(pnr_element_builder::kExecuteRM, [length](const hostlib::Arguments& arguments) {
+    std::wstring element = L"RM " + EnteringBench::TextIn(arguments, L"strKeyText");
+    if (element.starts_with(L"RM *FARE")) element.resize(length, L'X');
+    return hostlib::Value(element);
+  });
+}
+
 /// Each kind of remark, made so that the builder's text has a given length.
 class EveryRemark : public testing::TestWithParam<RemarkSource> {};
 
@@ -54,7 +63,8 @@ INSTANTIATE_TEST_SUITE_P(LongRemarks, EveryRemark,
                                                         bench.pnr.blnLH = true;
                                                         bench.pnr.strResponsibleOffice =
                                                             std::wstring(length - 33, L'X');
-                                                      }}),
+                                                      }},
+                                         RemarkSource{"Money", LengthenMoneyRemark}),
                          [](const auto& one) { return std::string(one.param.name); });
 
 TEST(LongRemarks, TheLengthToDivideIsThatOfTheBuildersTextNotOfWhatItWasGiven) {
