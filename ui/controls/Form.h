@@ -45,7 +45,7 @@ class Form {
   void SetCaption(std::wstring_view caption);
   MousePointer Pointer() const { return pointer_; }
   void SetPointer(MousePointer pointer);
-  /// Keys reach the form's handlers before its controls.
+  /// Kept for the record: nothing reads the flag, and F2, the key it was for, is unbound.
   bool KeyPreview() const { return keyPreview_; }
   void SetKeyPreview(bool preview);
 
