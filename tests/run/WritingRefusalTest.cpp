@@ -28,6 +28,12 @@ int PlaceOf(const Lines& entries, std::wstring_view start) {
   return static_cast<int>(found - entries.begin()) + 1;
 }
 
+/// The entries without the one that begins so.
+Lines Without(Lines entries, std::wstring_view start) {
+  entries.erase(entries.begin() + PlaceOf(entries, start) - 1);
+  return entries;
+}
+
 practice::RehearsalScene SceneRefusing(int entry, const std::wstring& agentGoesOn) {
   auto scene = SceneOf(kBooking);
   scene.prepare = [entry](practice::Host& host) { host.faults.refusals[entry] = L"TOLD TO"; };
@@ -132,6 +138,9 @@ TEST(WritingRefusal, OfEveryTSTIsToldForEachAndTheRunGoesOn) {
   const auto outcome = RehearseInAgreement(scene);
   EXPECT_EQ(outcome.EntryTexts(), accepted);
   EXPECT_EQ(CallsOf(outcome, L"ScriptErrorReporter.1.18"), TSTReports(2));
+  Lines taken = accepted;
+  taken.erase(taken.begin() + place - 1, taken.begin() + place + 1);
+  EXPECT_EQ(outcome.pnrAfter, PNRAfter(taken));
 }
 
 TEST(WritingRefusal, OfTheBODIsNotLookedAt) {
@@ -150,6 +159,7 @@ TEST(WritingRefusal, OfTheQueueGoesOnToThePanelAfterOK) {
       SceneRefusing(PlaceOf(accepted, L"QE"), L"box ok " + std::wstring(kQueueBox)));
   EXPECT_EQ(outcome.EntryTexts(), accepted);
   EXPECT_EQ(CallsOf(outcome, L"ScriptErrorReporter.1.18"), Lines{});
+  EXPECT_EQ(outcome.pnrAfter, PNRAfter(Without(accepted, L"QE")));
 }
 
 TEST(WritingRefusal, OfTheQueueEndsTheRunAfterCancel) {
@@ -165,6 +175,7 @@ TEST(WritingRefusal, OfThePanelIsNotLookedAt) {
   const Lines accepted = RehearseBooking(kBooking).EntryTexts();
   const auto outcome = RehearseInAgreement(SceneRefusing(PlaceOf(accepted, L"TQTP"), L""));
   EXPECT_EQ(outcome.EntryTexts(), accepted);
+  EXPECT_EQ(outcome.pnrAfter, PNRAfter(Without(accepted, L"TQTP")));
 }
 
 TEST(WritingRefusal, ByTheHostsOwnRulesLeavesTheOldRemark) {
