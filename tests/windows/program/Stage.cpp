@@ -112,6 +112,10 @@ std::vector<std::wstring> Stage::Entries() const {
 
 std::wstring Stage::Ini() const { return ReadText(folder_ + L"\\PTA_QX.ini"); }
 
+void Stage::AddToIni(const std::wstring& lines) {
+  WriteText(folder_ + L"\\PTA_QX.ini", Ini() + lines);
+}
+
 std::wstring Stage::WithLineFeeds(std::wstring text) {
   std::erase(text, L'\r');
   return text;

@@ -38,6 +38,8 @@ class Stage {
   std::vector<std::wstring> Entries() const;
   std::wstring PnrAfter() const { return WithLineFeeds(terminal_->PnrText()); }
   std::wstring Ini() const;
+  /// More of the settings file.
+  void AddToIni(const std::wstring& lines);
 
   static std::wstring WithLineFeeds(std::wstring text);
 

@@ -1,0 +1,107 @@
+#include <gmock/gmock.h>
+
+#include "common/Text.h"
+#include "journal/win32/WindowsFolder.h"
+#include "tests/windows/driver/Driver.h"
+#include "tests/windows/program/Stage.h"
+
+namespace driver {
+
+namespace {
+
+using testing::HasSubstr;
+
+std::string BytesOf(const std::wstring& path) {
+  std::FILE* const file = _wfopen(path.c_str(), L"rb");
+  if (file == nullptr) return {};
+  std::string bytes;
+  for (int c = std::fgetc(file); c != EOF; c = std::fgetc(file)) bytes += static_cast<char>(c);
+  std::fclose(file);
+  return bytes;
+}
+
+/// The user's journals, of which there are none when a test begins.
+class TheJournal : public testing::Test {
+ protected:
+  TheJournal() { Empty(); }
+  ~TheJournal() override { Empty(); }
+
+  std::string OnlyJournal() const {
+    const std::vector<std::wstring> names = folder_.Names();
+    EXPECT_EQ(names.size(), 1u);
+    return names.size() == 1 ? BytesOf(path_ + L"\\" + names.front()) : std::string();
+  }
+
+  std::wstring path_ = journal::UsersJournalFolder();
+  journal::WindowsFolder folder_{path_};
+
+ private:
+  void Empty() {
+    for (const std::wstring& name : folder_.Names()) folder_.Remove(name);
+  }
+};
+
+TEST_F(TheJournal, OfARealRunHasItsEntriesItsStatesAndItsEnd) {
+  Stage stage;
+  stage.WorkLikeTheOrdinaryAgent();
+  EXPECT_EQ(stage.ExitCode(), 0u);
+  ASSERT_EQ(folder_.Names().size(), 1u);
+  EXPECT_TRUE(common::Like(folder_.Names().front(), L"PTA_20##-##-##_######_ABC123.txt"))
+      << ToUtf8(folder_.Names().front());
+  const std::string journal = OnlyJournal();
+  EXPECT_EQ(journal.substr(0, 7), "PTA_QX ");
+  EXPECT_THAT(journal, HasSubstr("Office \"ARNAG2100\", as the host says\r\n"));
+  EXPECT_THAT(journal, HasSubstr("Entry 1 by SendCommand:\r\n    | PV\r\n"));
+  EXPECT_THAT(journal, HasSubstr(":\r\n    | QE 80 AT STOSK08AA\r\n"));
+  EXPECT_THAT(journal, HasSubstr(" Entry 16 accepted\r\n"));
+  EXPECT_THAT(journal, HasSubstr("Entries: 16, accepted 16, refused 0, unknown 0\r\n"));
+  EXPECT_THAT(journal, HasSubstr("Run ended with exit code 0 after "));
+  EXPECT_EQ(journal.find("CASH"), journal.npos);
+}
+
+TEST_F(TheJournal, IsNotThereWhenTheSettingsSaySo) {
+  Stage stage;
+  stage.AddToIni(L"[Settings]\nJournal=No\n");
+  stage.WorkLikeTheOrdinaryAgent();
+  EXPECT_EQ(stage.ExitCode(), 0u);
+  EXPECT_EQ(stage.Entries().back(), L"QE 80 AT STOSK08AA");
+  EXPECT_TRUE(folder_.Names().empty());
+}
+
+TEST_F(TheJournal, ThatCanNotBeWrittenLeavesTheRunAsItIs) {
+  ASSERT_TRUE(RemoveDirectoryW(path_.c_str()) || GetLastError() == ERROR_FILE_NOT_FOUND ||
+              GetLastError() == ERROR_PATH_NOT_FOUND);
+  const std::wstring above = path_.substr(0, path_.find_last_of(L'\\'));
+  CreateDirectoryW(above.c_str(), nullptr);
+  const HANDLE inItsPlace = CreateFileW(path_.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+                                        FILE_FLAG_DELETE_ON_CLOSE, nullptr);
+  ASSERT_NE(inItsPlace, INVALID_HANDLE_VALUE);
+  Stage stage;
+  stage.WorkLikeTheOrdinaryAgent();
+  EXPECT_EQ(stage.ExitCode(), 0u);
+  EXPECT_EQ(stage.Entries().back(), L"QE 80 AT STOSK08AA");
+  CloseHandle(inItsPlace);
+}
+
+// The last one: the system may go on offering what the killed terminal offered.
+TEST_F(TheJournal, SaysWhichEntrysOutcomeIsUnknownWhenTheTerminalIsKilledInIt) {
+  Stage stage;
+  stage.SetPace(300);
+  Program& program = stage.Start();
+  WaitUntil(L"an entry is on its way", [&] {
+    return folder_.Names().size() == 1 && OnlyJournal().find("Entry 2 by ") != std::string::npos;
+  });
+  stage.terminal().Kill();
+  WaitUntil(L"the call has broken off",
+            [&] { return OnlyJournal().find(", the call broke off:\r\n") != std::string::npos; });
+  EXPECT_THAT(OnlyJournal(), HasSubstr(" unknown after "));
+  WaitUntil(L"the program has ended, every box answered", [&] {
+    if (const HWND box = program.Box()) PostMessageW(box, WM_COMMAND, IDOK, 0);
+    return !program.IsRunning();
+  });
+  EXPECT_THAT(OnlyJournal(), HasSubstr(" Unknown: "));
+}
+
+}  // namespace
+
+}  // namespace driver
