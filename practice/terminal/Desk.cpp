@@ -36,7 +36,9 @@ void Desk::Enter(std::wstring_view entry) {
   }
 }
 
-void Desk::RefuseNext(std::wstring_view reason) { host_.faults.refusals[Next()] = reason; }
+void Desk::RefuseEntry(int number, std::wstring_view reason) {
+  host_.faults.refusals[host_.EntryCount() + number] = reason;
+}
 
 void Desk::GarbleNext() { host_.faults.garbage[Next()] = kGarbage; }
 

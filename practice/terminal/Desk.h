@@ -22,7 +22,9 @@ class Desk {
   void Enter(std::wstring_view entry);
 
   // Misbehaviour: of the next entry, or from it on. A new one leaves the earlier ones.
-  void RefuseNext(std::wstring_view reason);
+  void RefuseNext(std::wstring_view reason) { RefuseEntry(1, reason); }
+  /// The next entry is number 1.
+  void RefuseEntry(int number, std::wstring_view reason);
   void GarbleNext();
   /// The session is lost at the next entry; it may be the answer alone that is lost.
   void DropSession(bool answerOnly);

@@ -30,6 +30,10 @@ class DeskObject : public PracticeObject {
       desk.RefuseNext(a[0].Text());
       return Value();
     });
+    OnSlot(17, [&desk](const Arguments& a) {
+      desk.RefuseEntry(a[0].Long(), a[1].Text());
+      return Value();
+    });
     OnSlot(12, [&desk](const Arguments& a) {
       desk.DropSession(a[0].Flag());
       return Value();

@@ -1,32 +1,14 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 #include "common/Text.h"
-#include "tests/run/Scenes.h"
+#include "tests/run/Refusals.h"
 
 // Every kind of refusal in its turn: what the agent is told, what is still sent, and what the PNR
 // has become. The booking changes every element there is and needs two entries for the new ones.
 namespace run {
 namespace {
 
-constexpr const char* kBooking = "write-everything";
-constexpr std::wstring_view kStandardText =
-    L"\\r\\rCorvane Central System gave an incorrect response to the last transaction.\\rPlease "
-    L"verify the response given and correct if possible, or contact your help desk. \\rThe program "
-    L"can not continue.";
-
-std::wstring Report(std::wstring_view firstLine) {
-  return L"box ok \"" + std::wstring(firstLine) + std::wstring(kStandardText) +
-         L"\" 48 \"  PTA Script \"\n";
-}
-
-int PlaceOf(const Lines& entries, std::wstring_view start) {
-  const auto found = std::find_if(entries.begin(), entries.end(),
-                                  [start](const auto& entry) { return entry.starts_with(start); });
-  EXPECT_NE(found, entries.end()) << common::ToUtf8(start);
-  return static_cast<int>(found - entries.begin()) + 1;
-}
+constexpr const char* kBooking = kRefusalBooking;
 
 /// The entries without the one that begins so.
 Lines Without(Lines entries, std::wstring_view start) {
@@ -55,7 +37,7 @@ std::wstring PNRAfter(const Lines& entries) {
 Lines ReportCalls(int number, std::wstring_view firstLine) {
   constexpr int kErrorBase = -2147221504;
   return {L"ScriptErrorReporter.1.18 ShowError(" + std::to_wstring(kErrorBase + number) +
-          L", \"  PTA Script \", \"" + std::wstring(firstLine) + std::wstring(kStandardText) +
+          L", \"  PTA Script \", \"" + std::wstring(firstLine) + std::wstring(StandardText()) +
           L"\", 48)"};
 }
 
@@ -72,7 +54,7 @@ TEST_P(RefusalThatEndsTheRun, IsToldOnceAndNothingMoreIsSent) {
   const auto [name, entry, firstLine, number] = GetParam();
   const Lines accepted = RehearseBooking(kBooking).EntryTexts();
   const int place = PlaceOf(accepted, entry);
-  const auto outcome = RehearseInAgreement(SceneRefusing(place, Report(firstLine)));
+  const auto outcome = RehearseInAgreement(SceneRefusing(place, RefusalReport(firstLine)));
   EXPECT_EQ(outcome.EntryTexts(), Lines(accepted.begin(), accepted.begin() + place));
   EXPECT_EQ(CallsOf(outcome, L"ScriptErrorReporter.1.18"), ReportCalls(number, firstLine));
   EXPECT_EQ(outcome.pnrAfter, PNRAfter({accepted.begin(), accepted.begin() + place - 1}));
@@ -83,7 +65,7 @@ TEST_P(RefusalThatEndsTheRun, IsAlsoAnAnswerThatCannotBeReadThoughTheEntryWasTak
   const auto [name, entry, firstLine, number] = GetParam();
   const Lines accepted = RehearseBooking(kBooking).EntryTexts();
   const int place = PlaceOf(accepted, entry);
-  auto scene = SceneRefusing(0, Report(firstLine));
+  auto scene = SceneRefusing(0, RefusalReport(firstLine));
   scene.prepare = [place](practice::Host& host) { host.faults.garbage[place] = L"?!"; };
   const auto outcome = RehearseInAgreement(scene);
   EXPECT_EQ(outcome.EntryTexts(), Lines(accepted.begin(), accepted.begin() + place));
@@ -118,8 +100,8 @@ Lines TSTReports(std::size_t count) {
 TEST(WritingRefusal, OfATSTIsToldAndTheNextTSTIsUpdated) {
   const Lines accepted = RehearseBooking(kBooking).EntryTexts();
   const int place = PlaceOf(accepted, L"TU 1 ");
-  const auto outcome =
-      RehearseInAgreement(SceneRefusing(place, Report(L"Error when updating the TST Record!")));
+  const auto outcome = RehearseInAgreement(
+      SceneRefusing(place, RefusalReport(L"Error when updating the TST Record!")));
   EXPECT_EQ(outcome.EntryTexts(), accepted);
   EXPECT_EQ(CallsOf(outcome, L"ScriptErrorReporter.1.18"), TSTReports(1));
   Lines taken = accepted;
@@ -130,7 +112,7 @@ TEST(WritingRefusal, OfATSTIsToldAndTheNextTSTIsUpdated) {
 TEST(WritingRefusal, OfEveryTSTIsToldForEachAndTheRunGoesOn) {
   const Lines accepted = RehearseBooking(kBooking).EntryTexts();
   const int place = PlaceOf(accepted, L"TU 1 ");
-  const std::wstring report = Report(L"Error when updating the TST Record!");
+  const std::wstring report = RefusalReport(L"Error when updating the TST Record!");
   auto scene = SceneRefusing(place, report + report);
   scene.prepare = [place](practice::Host& host) {
     host.faults.refusals = {{place, L"TOLD TO"}, {place + 1, L"TOLD TO"}};
@@ -182,7 +164,7 @@ TEST(WritingRefusal, ByTheHostsOwnRulesLeavesTheOldRemark) {
   auto scene = SceneOf("write-pwct-changed");
   const std::wstring tooLong(120, L'X');
   Change(scene.agent, L"SK AT CPH A/P BEFORE DEPARTURE", tooLong);
-  scene.agent += Report(L"Error when updating the RM PWCT Element!");
+  scene.agent += RefusalReport(L"Error when updating the RM PWCT Element!");
   const auto outcome = RehearseInAgreement(scene);
   EXPECT_EQ(outcome.EntryTexts().back(), L"CH 10 PWCT " + tooLong);
   // A command of more than 75 characters is not a single entry any more.

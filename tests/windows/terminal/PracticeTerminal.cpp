@@ -97,8 +97,11 @@ void PracticeTerminal::SlowDown(int milliseconds) {
   TellDesk(L"SlowDown", client::Number(milliseconds));
 }
 
-void PracticeTerminal::RefuseNext(const std::wstring& reason) {
-  TellDesk(L"RefuseNext", client::Text(reason));
+void PracticeTerminal::RefuseEntry(int number, const std::wstring& reason) {
+  std::vector<client::Variant> arguments;
+  arguments.push_back(client::Number(number));
+  arguments.push_back(client::Text(reason));
+  client::Call(*client::Make(L"PracticeDesk").Get(), L"RefuseEntry", std::move(arguments));
 }
 
 void PracticeTerminal::DropSession(bool answerOnly) {

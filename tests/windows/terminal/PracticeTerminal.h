@@ -36,7 +36,8 @@ class PracticeTerminal {
   int EntryCount() const;
   /// Every entry takes this long.
   void SlowDown(int milliseconds);
-  void RefuseNext(const std::wstring& reason);
+  /// The next entry is number 1.
+  void RefuseEntry(int number, const std::wstring& reason);
   void DropSession(bool answerOnly);
   /// The terminal's process ends in the middle of this entry, counted from now on.
   void DieInEntry(int number);
