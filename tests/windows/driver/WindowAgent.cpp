@@ -162,7 +162,9 @@ void WindowAgent::AnswerBox(const practice::AgentLine& line) {
   if (!Holds([&] { return BoxText(box) == WithLineBreaks(line.Word(1)); }, kLook)) {
     throw DriverError(L"The box says \"" + BoxText(box) + L"\"");
   }
-  if (line.words.size() > 3 && TextOf(box) != line.Word(3)) {
+  // A box without a title bears the program's name.
+  const std::wstring title = line.Word(3).empty() ? std::wstring(L"PTA_QX") : line.Word(3);
+  if (line.words.size() > 3 && TextOf(box) != title) {
     throw DriverError(L"The box bears \"" + TextOf(box) + L"\"");
   }
   if (line.words.size() > 2) CheckStyle(box, std::stoi(line.Word(2)));
