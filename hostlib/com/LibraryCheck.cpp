@@ -1,10 +1,11 @@
 #include "hostlib/com/LibraryCheck.h"
 
-#include <algorithm>
+#include <map>
 #include <set>
 
 #include "common/Numbers.h"
 #include "hostlib/com/CallOutcome.h"
+#include "hostlib/com/Failures.h"
 
 namespace hostlib::com {
 namespace {
@@ -30,50 +31,79 @@ class LibraryCheck {
       : library_(library), used_(used) {}
 
   std::vector<std::wstring> Faults() {
+    MakeObjects();
     std::vector<std::wstring> faults;
-    if (!IsAnythingInstalled()) return faults;
+    if (held_.empty()) return faults;
     for (const Operation& operation : used_) {
-      if (library_.IsInstalled(operation.object)) {
-        const std::wstring fault = FaultOf(operation);
-        if (!fault.empty()) faults.push_back(Words(operation, fault));
-      } else if (notThere_.insert(operation.object).second) {
-        faults.push_back(std::wstring(operation.object) + L": there is no such object.");
-      }
+      const std::wstring fault = FaultOf(operation);
+      if (!fault.empty()) faults.push_back(fault);
     }
     return faults;
   }
 
  private:
-  bool IsAnythingInstalled() {
-    return std::any_of(used_.begin(), used_.end(), [this](const Operation& operation) {
-      return library_.IsInstalled(operation.object);
-    });
+  // One of each class, since a class may be registered and its program or its part of it missing.
+  // A terminal that only serves objects may end with the last of them, and its types with it.
+  void MakeObjects() {
+    for (const Operation& operation : used_) {
+      const std::wstring_view className = operation.object;
+      // Only a terminal with an open session can make one, which is for the run to find.
+      if (className == operations::terminal_session::kClass) continue;
+      if (!held_.contains(className) && !notMade_.contains(className)) MakeObject(className);
+    }
+  }
+
+  void MakeObject(std::wstring_view className) {
+    ComPtr<IDispatch> object;
+    const HRESULT made = library_.MakeObject(className, object);
+    if (SUCCEEDED(made)) {
+      held_.emplace(className, std::move(object));
+    } else {
+      notMade_.emplace(className, made);
+    }
   }
 
   std::wstring FaultOf(const Operation& operation) {
+    if (const std::wstring fault = FaultOfClass(operation.object); !fault.empty()) {
+      return told_.insert(operation.object).second ? fault : std::wstring();
+    }
     ClassBinding* binding = BindingOf(operation.object);
-    return binding == nullptr ? std::wstring() : binding->WhatIsWrongWith(operation);
+    const std::wstring fault =
+        binding == nullptr ? std::wstring() : binding->WhatIsWrongWith(operation);
+    return fault.empty() ? fault : Words(operation, fault);
   }
 
-  // Objects are made only of classes that no type library seen so far describes.
+  // What holds for every operation of the class.
+  std::wstring FaultOfClass(std::wstring_view className) {
+    if (!library_.IsInstalled(className)) {
+      return std::wstring(className) + L": there is no such object.";
+    }
+    const auto failure = notMade_.find(className);
+    if (failure == notMade_.end()) return {};
+    return std::wstring(className) + L": no object can be made. " + TextOf(failure->second);
+  }
+
+  // Null for a session that can't be made and that no type library seen so far describes.
   ClassBinding* BindingOf(std::wstring_view className) {
+    if (const auto made = held_.find(className); made != held_.end()) {
+      return &library_.BindingFor(className, *made->second.Get());
+    }
     if (ClassBinding* binding = library_.BindingWithoutObject(className)) return binding;
-    if (notMade_.contains(className)) return nullptr;
+    if (leftToTheRun_.contains(className)) return nullptr;
     ComPtr<IDispatch> object;
     if (FAILED(library_.MakeObject(className, object))) {
-      notMade_.insert(className);
+      leftToTheRun_.insert(className);
       return nullptr;
     }
-    // A terminal that only serves objects may end with the last of them, and its types with it.
-    held_.push_back(object);
-    return &library_.BindingFor(className, *object.Get());
+    return &library_.BindingFor(className, *held_.emplace(className, object).first->second.Get());
   }
 
   ComLibrary& library_;
   std::span<const Operation> used_;
-  std::set<std::wstring_view> notThere_;
-  std::set<std::wstring_view> notMade_;
-  std::vector<ComPtr<IDispatch>> held_;
+  std::map<std::wstring_view, ComPtr<IDispatch>> held_;
+  std::map<std::wstring_view, HRESULT> notMade_;
+  std::set<std::wstring_view> told_;
+  std::set<std::wstring_view> leftToTheRun_;
 };
 
 std::wstring Message(const std::vector<std::wstring>& faults) {

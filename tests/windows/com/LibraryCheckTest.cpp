@@ -1,6 +1,7 @@
 #include <TestLibrary.h>
 
 #include "hostlib/com/CallOutcome.h"
+#include "hostlib/com/Failures.h"
 #include "hostlib/com/LibraryCheck.h"
 #include "tests/windows/com/TestServer.h"
 
@@ -82,11 +83,33 @@ TEST_F(LibraryCheck, NamesNoMoreThanTenFaults) {
   EXPECT_TRUE(words.ends_with(L"\r... and 13 more."));
 }
 
-TEST_F(LibraryCheck, SendsNothingAndMakesOneObjectOfTheLibrary) {
+TEST_F(LibraryCheck, NamesAnObjectThatCanNotBeMadeOnceWithTheReason) {
+  InstallAll(Types::kGood);
+  source_.failures[L"Vantel.PnrElementChange"] = CLASS_E_CLASSNOTAVAILABLE;
+  EXPECT_EQ(FailureOf([&] { CheckUsedOperations(library_, kUsed); }).description(),
+            std::wstring(kIntroduction) + L"PnrElementChange: no object can be made. " +
+                hostlib::com::TextOf(CLASS_E_CLASSNOTAVAILABLE));
+}
+
+TEST_F(LibraryCheck, LeavesASessionThatCanNotBeMadeToTheRun) {
+  InstallAll(Types::kGood);
+  source_.failures[L"Vantel.TerminalSession"] = MK_E_UNAVAILABLE;
+  EXPECT_NO_THROW(CheckUsedOperations(library_, kUsed));
+}
+
+TEST_F(LibraryCheck, HoldsASessionThatCanNotBeMadeAgainstItsTypesAllTheSame) {
+  InstallAll(Types::kLacksSlot);
+  source_.failures[L"Vantel.TerminalSession"] = MK_E_UNAVAILABLE;
+  EXPECT_EQ(FailureOf([&] { CheckUsedOperations(library_, kUsed); }).description(),
+            std::wstring(kIntroduction) +
+                L"TerminalSession, slot 16 (SessionText): there is no such slot.");
+}
+
+TEST_F(LibraryCheck, SendsNothingAndMakesOneObjectOfEachClassButTheSession) {
   InstallAll(Types::kGood);
   CheckUsedOperations(library_, kUsed);
   EXPECT_TRUE(bag_->calls.empty() && session_->calls.empty() && change_->calls.empty());
-  EXPECT_EQ(source_.made, 1);
+  EXPECT_EQ(source_.made, 2);
 }
 
 TEST_F(LibraryCheck, HoldsTheObjectWhoseTypesItReads) {
