@@ -15,6 +15,19 @@ std::wstring Hexadecimal(HRESULT result) {
   return text;
 }
 
+// The boxes of the procedures have no room for it; the journal and the box of a failure that nobody
+// expected show a failure's own words.
+const wchar_t* WordsFor(LibraryError::Outcome outcome) {
+  switch (outcome) {
+    case LibraryError::Outcome::kNotSent:
+      return L" (the call was not made)";
+    case LibraryError::Outcome::kInterrupted:
+      return L" (the call broke off: it may have been carried out)";
+    default:
+      return L"";
+  }
+}
+
 std::wstring TextIn(BSTR text) { return {text == nullptr ? L"" : text, SysStringLen(text)}; }
 
 }  // namespace
@@ -31,8 +44,9 @@ std::wstring TextOf(HRESULT result) {
 }
 
 void ThrowLinkError(HRESULT result, const std::wstring& what) {
-  throw LibraryError(result, kSource, what.empty() ? TextOf(result) : what + L": " + TextOf(result),
-                     OutcomeOf(static_cast<std::uint32_t>(result)));
+  const LibraryError::Outcome outcome = OutcomeOf(static_cast<std::uint32_t>(result));
+  const std::wstring text = what.empty() ? TextOf(result) : what + L": " + TextOf(result);
+  throw LibraryError(result, kSource, text + WordsFor(outcome), outcome);
 }
 
 void ThrowMismatch(const std::wstring& detail) {

@@ -13,7 +13,8 @@ namespace hostlib::com {
 /// The system's words for a result, or its number when the system has none.
 std::wstring TextOf(HRESULT result);
 
-/// A failure of the link itself, in the system's words after `what` when there is any.
+/// A failure of the link itself, in the system's words after `what` when there is any, and with
+/// what it tells about the call.
 [[noreturn]] void ThrowLinkError(HRESULT result, const std::wstring& what = {});
 inline void Check(HRESULT result, const std::wstring& what = {}) {
   if (FAILED(result)) ThrowLinkError(result, what);

@@ -103,7 +103,7 @@ TEST_F(Failures, AnIndexThatPointsNowhereIsLeftOut) {
 
 TEST_F(Failures, AServerThatDiesInsideTheCallInterruptsIt) {
   EXPECT_EQ(FailureWith(RPC_E_SERVER_DIED).outcome(), Outcome::kInterrupted);
-  EXPECT_EQ(FailureWith(RPC_E_DISCONNECTED).outcome(), Outcome::kInterrupted);
+  EXPECT_EQ(FailureWith(RPC_E_SERVERFAULT).outcome(), Outcome::kInterrupted);
   EXPECT_EQ(FailureWith(HRESULT_FROM_WIN32(RPC_S_CALL_FAILED)).outcome(), Outcome::kInterrupted);
 }
 
@@ -112,6 +112,15 @@ TEST_F(Failures, AServerThatIsGoneBeforeTheCallHasNotGotIt) {
   EXPECT_EQ(FailureWith(RPC_E_SERVER_DIED_DNE).outcome(), Outcome::kNotSent);
   EXPECT_EQ(FailureWith(CO_E_OBJNOTCONNECTED).outcome(), Outcome::kNotSent);
   EXPECT_EQ(FailureWith(RPC_E_CALL_REJECTED).outcome(), Outcome::kNotSent);
+}
+
+TEST_F(Failures, ItsWordsTellWhetherTheCallMayHaveBeenCarriedOut) {
+  EXPECT_EQ(FailureWith(RPC_E_SERVER_DIED).description(),
+            hostlib::com::TextOf(RPC_E_SERVER_DIED) +
+                L" (the call broke off: it may have been carried out)");
+  EXPECT_EQ(FailureWith(RPC_E_DISCONNECTED).description(),
+            hostlib::com::TextOf(RPC_E_DISCONNECTED) + L" (the call was not made)");
+  EXPECT_EQ(FailureWith(E_FAIL).description(), hostlib::com::TextOf(E_FAIL));
 }
 
 TEST_F(Failures, ALibrarysOwnFailureIsItsAnswerWhateverItsNumber) {
