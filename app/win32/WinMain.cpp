@@ -22,8 +22,8 @@ int RunOnInstalledLibrary(ui::Desktop& desktop) {
   try {
     const hostlib::com::Apartment apartment(hostlib::com::AskToTryAgain);
     hostlib::com::InstalledObjects installed;
-    hostlib::com::ComLibrary library(installed);
-    hostlib::com::CheckUsedOperations(library);
+    hostlib::com::ComLibrary link(installed);
+    hostlib::com::CheckedLibrary library(link);
     const journal::WindowsClock clock;
     journal::WindowsFolder folder(journal::UsersJournalFolder());
     journal::RunJournal journal(library, desktop,

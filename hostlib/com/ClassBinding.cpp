@@ -13,11 +13,11 @@ std::vector<TypeInfo> InterfacesOf(const TypeInfo& coclass) {
     INT flags = 0;
     HREFTYPE reference = 0;
     TypeInfo type;
-    Check(coclass->GetImplTypeFlags(i, &flags));
+    CheckAnswered(coclass->GetImplTypeFlags(i, &flags));
     // What the class calls back is none of its interfaces.
     if ((flags & IMPLTYPEFLAG_FSOURCE) != 0) continue;
-    Check(coclass->GetRefTypeOfImplType(i, &reference));
-    Check(coclass->GetRefTypeInfo(reference, &type));
+    CheckAnswered(coclass->GetRefTypeOfImplType(i, &reference));
+    CheckAnswered(coclass->GetRefTypeInfo(reference, &type));
     interfaces.push_back(std::move(type));
   }
   return interfaces;
@@ -29,8 +29,8 @@ TypeInfo CoclassWithInterface(ITypeLib& library, const IID& interfaceId) {
   for (UINT i = 0; i < types; ++i) {
     TYPEKIND kind{};
     TypeInfo type;
-    if (FAILED(library.GetTypeInfoType(i, &kind)) || kind != TKIND_COCLASS) continue;
-    if (FAILED(library.GetTypeInfo(i, &type))) continue;
+    if (!IsAnswered(library.GetTypeInfoType(i, &kind)) || kind != TKIND_COCLASS) continue;
+    if (!IsAnswered(library.GetTypeInfo(i, &type))) continue;
     const std::vector<TypeInfo> interfaces = InterfacesOf(type);
     if (!interfaces.empty() && TypeAttributes(interfaces.front())->guid == interfaceId) return type;
   }
@@ -39,14 +39,13 @@ TypeInfo CoclassWithInterface(ITypeLib& library, const IID& interfaceId) {
 
 TypeInfo TypeOf(IDispatch& object) {
   TypeInfo type;
-  if (FAILED(object.GetTypeInfo(0, LOCALE_NEUTRAL, &type))) return nullptr;
-  return type;
+  return IsAnswered(object.GetTypeInfo(0, LOCALE_NEUTRAL, &type)) ? type : nullptr;
 }
 
 TypeLibrary LibraryOf(const TypeInfo& type) {
   TypeLibrary library;
   UINT index = 0;
-  if (type == nullptr || FAILED(type->GetContainingTypeLib(&library, &index))) return nullptr;
+  if (type == nullptr || !IsAnswered(type->GetContainingTypeLib(&library, &index))) return nullptr;
   return library;
 }
 
@@ -71,7 +70,7 @@ std::wstring Count(std::size_t number) {
 
 TypeInfo FindCoclass(ITypeLib& library, const CLSID& classId) {
   TypeInfo type;
-  if (FAILED(library.GetTypeInfoOfGuid(classId, &type))) return nullptr;
+  if (!IsAnswered(library.GetTypeInfoOfGuid(classId, &type))) return nullptr;
   return TypeAttributes(type)->typekind == TKIND_COCLASS ? type : nullptr;
 }
 
@@ -94,10 +93,12 @@ const IID* ClassBinding::InterfaceId(int number) const {
 
 const Member* ClassBinding::Find(int interfaceNumber, int slot) {
   if (InterfaceId(interfaceNumber) == nullptr) return nullptr;
-  const auto [entry, isNew] = members_.try_emplace({interfaceNumber, slot});
-  if (isNew) {
+  const std::pair<int, int> place(interfaceNumber, slot);
+  auto entry = members_.find(place);
+  if (entry == members_.end()) {
+    // Kept only when it was answered.
     const auto index = static_cast<std::size_t>(interfaceNumber - 1);
-    entry->second = interfaces_[index].MemberInSlot(slot);
+    entry = members_.emplace(place, interfaces_[index].MemberInSlot(slot)).first;
   }
   return entry->second ? &*entry->second : nullptr;
 }

@@ -11,7 +11,8 @@
 namespace hostlib::com {
 
 /// How the operations of one class of the installed library are called: found by their slots when
-/// they are first asked for, and kept, what is not there too.
+/// they are first asked for, and kept, what is not there too. Whatever asks the library throws when
+/// it can't be asked, and nothing is kept then.
 class ClassBinding {
  public:
   /// From an object of the class. `classId` is null for a class that only the library makes.

@@ -75,12 +75,38 @@ ClassBinding* ComLibrary::BindingWithoutObject(std::wstring_view className) {
   }
   const InstalledClass& installed = Find(className);
   if (FAILED(installed.found)) return nullptr;
-  for (const TypeLibrary& library : typeLibraries_) {
-    if (const TypeInfo coclass = FindCoclass(*library.Get(), installed.id)) {
-      return &Keep(std::make_unique<ClassBinding>(std::wstring(className), coclass));
+  for (auto library = typeLibraries_.begin(); library != typeLibraries_.end();) {
+    try {
+      if (ClassBinding* binding = BindingIn(*library, className)) return binding;
+      ++library;
+    } catch (const LibraryError& error) {
+      if (!IsOfTheLink(error)) throw;
+      // The terminal that it came from is gone; another one brings its own.
+      library = typeLibraries_.erase(library);
     }
   }
   return nullptr;
+}
+
+ClassBinding* ComLibrary::BindingIn(const TypeLibrary& library, std::wstring_view className) {
+  const TypeInfo coclass = FindCoclass(*library.Get(), Find(className).id);
+  if (coclass == nullptr) return nullptr;
+  return &Keep(std::make_unique<ClassBinding>(std::wstring(className), coclass));
+}
+
+const Member* ComLibrary::FindMember(std::wstring_view className, IDispatch& object,
+                                     int interfaceNumber, int slot) {
+  try {
+    return BindingFor(className, object).Find(interfaceNumber, slot);
+  } catch (const LibraryError& error) {
+    if (IsOfTheLink(error)) Forget(className);
+    throw;
+  }
+}
+
+void ComLibrary::Forget(std::wstring_view className) {
+  if (const auto found = bindings_.find(className); found != bindings_.end())
+    bindings_.erase(found);
 }
 
 bool ComLibrary::IsInstalled(std::wstring_view className) {

@@ -28,6 +28,11 @@ class ComLibrary : public Library, public ObjectGate {
   /// The same without an object, when a type library that is known already has the class; null
   /// otherwise.
   ClassBinding* BindingWithoutObject(std::wstring_view className);
+  /// The member in the slot; null when it is not there. When the library can't be asked, the class
+  /// is bound anew the next time.
+  const Member* FindMember(std::wstring_view className, IDispatch& object, int interfaceNumber,
+                           int slot);
+  void Forget(std::wstring_view className);
   /// The bare object, when it can be made.
   HRESULT MakeObject(std::wstring_view className, Microsoft::WRL::ComPtr<IDispatch>& object);
   /// Whether a class of that name is installed at all.
@@ -40,6 +45,7 @@ class ComLibrary : public Library, public ObjectGate {
   };
 
   const InstalledClass& Find(std::wstring_view className);
+  ClassBinding* BindingIn(const TypeLibrary& library, std::wstring_view className);
   ClassBinding& Keep(std::unique_ptr<ClassBinding> binding);
 
   ObjectSource& source_;

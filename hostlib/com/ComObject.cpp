@@ -52,8 +52,8 @@ Value ComObject::CallMember(int slot, const Arguments& arguments, const Operatio
 
 Member ComObject::MemberFor(int slot, std::size_t arguments) {
   if (slot == kDefaultMember) return {};
-  ClassBinding& binding = shared_->library.BindingFor(ClassName(), *shared_->object.Get());
-  const Member* member = binding.Find(number_, slot);
+  const Member* member =
+      shared_->library.FindMember(ClassName(), *shared_->object.Get(), number_, slot);
   if (member == nullptr) {
     ThrowUnusable(DISP_E_MEMBERNOTFOUND, L"The object has no slot " + common::NumberText(slot));
   }
@@ -74,8 +74,8 @@ IDispatch& ComObject::Target() {
   if (target == nullptr) {
     ClassBinding& binding = shared_->library.BindingFor(ClassName(), *shared_->object.Get());
     // Every interface that is called by name begins with these entries.
-    Check(shared_->object->QueryInterface(*binding.InterfaceId(number_),
-                                          reinterpret_cast<void**>(target.GetAddressOf())));
+    CheckAnswered(shared_->object->QueryInterface(*binding.InterfaceId(number_),
+                                                  reinterpret_cast<void**>(target.GetAddressOf())));
   }
   return *target.Get();
 }

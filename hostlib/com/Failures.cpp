@@ -49,6 +49,23 @@ void ThrowLinkError(HRESULT result, const std::wstring& what) {
   throw LibraryError(result, kSource, text + WordsFor(outcome), outcome);
 }
 
+bool IsAnswered(HRESULT result) {
+  const bool hasLink =
+      OutcomeOf(static_cast<std::uint32_t>(result)) == LibraryError::Outcome::kRefused;
+  if (!hasLink) CheckAnswered(result);
+  return SUCCEEDED(result);
+}
+
+void CheckAnswered(HRESULT result) {
+  if (SUCCEEDED(result)) return;
+  constexpr auto kOutcome = LibraryError::Outcome::kNotSent;
+  throw LibraryError(result, kSource, TextOf(result) + WordsFor(kOutcome), kOutcome);
+}
+
+bool IsOfTheLink(const LibraryError& error) {
+  return OutcomeOf(static_cast<std::uint32_t>(error.number())) != LibraryError::Outcome::kRefused;
+}
+
 void ThrowMismatch(const std::wstring& detail) {
   throw LibraryError(DISP_E_TYPEMISMATCH, kSource, L"Type mismatch: " + detail);
 }

@@ -20,6 +20,14 @@ inline void Check(HRESULT result, const std::wstring& what = {}) {
   if (FAILED(result)) ThrowLinkError(result, what);
 }
 
+/// Whether a question about the library's types was answered. Throws when the link failed, so that
+/// a terminal that goes away is not taken for one that lacks what was asked for.
+bool IsAnswered(HRESULT result);
+/// ... and throws for every failure. With such a question nothing of an entry is sent.
+void CheckAnswered(HRESULT result);
+/// The failure is one of the link: a later try may go well.
+bool IsOfTheLink(const LibraryError& error);
+
 /// A value of a kind that this system's values can't hold, or not in this place.
 [[noreturn]] void ThrowMismatch(const std::wstring& detail);
 

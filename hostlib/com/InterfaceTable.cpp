@@ -11,11 +11,9 @@ constexpr int kOffsetMask = ~3;
 TypeInfo Referenced(const TypeInfo& type, UINT implemented) {
   HREFTYPE reference = 0;
   TypeInfo other;
-  if (FAILED(type->GetRefTypeOfImplType(implemented, &reference)) ||
-      FAILED(type->GetRefTypeInfo(reference, &other))) {
-    return nullptr;
-  }
-  return other;
+  const bool isThere = IsAnswered(type->GetRefTypeOfImplType(implemented, &reference)) &&
+                       IsAnswered(type->GetRefTypeInfo(reference, &other));
+  return isThere ? other : nullptr;
 }
 
 // The half of a dual interface that has the table. Offsets and parameters of the other half are

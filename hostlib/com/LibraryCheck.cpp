@@ -67,10 +67,19 @@ class LibraryCheck {
     if (const std::wstring fault = FaultOfClass(operation.object); !fault.empty()) {
       return told_.insert(operation.object).second ? fault : std::wstring();
     }
-    ClassBinding* binding = BindingOf(operation.object);
-    const std::wstring fault =
-        binding == nullptr ? std::wstring() : binding->WhatIsWrongWith(operation);
+    const std::wstring fault = WhatIsWrongWith(operation);
     return fault.empty() ? fault : Words(operation, fault);
+  }
+
+  std::wstring WhatIsWrongWith(const Operation& operation) {
+    try {
+      ClassBinding* binding = BindingOf(operation.object);
+      return binding == nullptr ? std::wstring() : binding->WhatIsWrongWith(operation);
+    } catch (const LibraryError& error) {
+      if (!IsOfTheLink(error)) return L"its description can not be read. " + TextOf(error.number());
+      library_.Forget(operation.object);
+      throw;
+    }
   }
 
   // What holds for every operation of the class.
@@ -79,7 +88,7 @@ class LibraryCheck {
       return std::wstring(className) + L": there is no such object.";
     }
     const auto failure = notMade_.find(className);
-    if (failure == notMade_.end()) return {};
+    if (failure == notMade_.end() || IsAnswered(failure->second)) return {};
     return std::wstring(className) + L": no object can be made. " + TextOf(failure->second);
   }
 
@@ -124,6 +133,23 @@ void CheckUsedOperations(ComLibrary& library, std::span<const Operation> used) {
   if (faults.empty()) return;
   throw LibraryError(kLibraryDoesNotFit, L"hostlib", Message(faults),
                      LibraryError::Outcome::kNotSent);
+}
+
+CheckedLibrary::CheckedLibrary(ComLibrary& library, std::span<const Operation> used)
+    : library_(library) {
+  try {
+    CheckUsedOperations(library, used);
+  } catch (const LibraryError& error) {
+    if (error.number() == kLibraryDoesNotFit) throw;
+    failure_ = error;
+  }
+}
+
+ObjectPtr CheckedLibrary::Create(std::wstring_view className) {
+  if (!failure_) return library_.Create(className);
+  LibraryError failure = *failure_;
+  failure.Locate(className, L"Create");
+  throw failure;
 }
 
 }  // namespace hostlib::com

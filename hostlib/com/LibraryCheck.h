@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <span>
 
 #include "hostlib/com/ComLibrary.h"
@@ -10,7 +11,21 @@ namespace hostlib::com {
 /// used: throws one LibraryError (kLibraryDoesNotFit) that names each object, slot and operation
 /// that is not there or takes another number of arguments, and each object that can't be made.
 /// Quiet when none at all can be made, and about a session that can't: no library is installed then
-/// or its terminal does not run, which is for the run itself to find.
+/// or its terminal does not run, which is for the run itself to find. Any other LibraryError says
+/// that the library can't be asked now.
 void CheckUsedOperations(ComLibrary& library, std::span<const Operation> used = AllOperations());
+
+/// The installed library as a run gets it: held against what the program uses, once, which throws
+/// as above when it does not fit. When it could not be asked, since its terminal went away or
+/// stayed busy, it makes no object, for that reason, and nothing is sent.
+class CheckedLibrary : public Library {
+ public:
+  explicit CheckedLibrary(ComLibrary& library, std::span<const Operation> used = AllOperations());
+  ObjectPtr Create(std::wstring_view className) override;
+
+ private:
+  ComLibrary& library_;
+  std::optional<LibraryError> failure_;
+};
 
 }  // namespace hostlib::com

@@ -13,7 +13,7 @@ using TypeLibrary = Microsoft::WRL::ComPtr<ITypeLib>;
 class TypeAttributes {
  public:
   explicit TypeAttributes(TypeInfo type) : type_(std::move(type)) {
-    Check(type_->GetTypeAttr(&attributes_));
+    CheckAnswered(type_->GetTypeAttr(&attributes_));
   }
   ~TypeAttributes() { type_->ReleaseTypeAttr(attributes_); }
   TypeAttributes(const TypeAttributes&) = delete;
@@ -30,7 +30,7 @@ class TypeAttributes {
 class FunctionDescription {
  public:
   FunctionDescription(TypeInfo type, UINT index) : type_(std::move(type)) {
-    Check(type_->GetFuncDesc(index, &function_));
+    CheckAnswered(type_->GetFuncDesc(index, &function_));
   }
   ~FunctionDescription() { type_->ReleaseFuncDesc(function_); }
   FunctionDescription(const FunctionDescription&) = delete;

@@ -25,6 +25,11 @@ void TestObject::AddInterface(const IID& id, ComPtr<TestObject> object) {
   others[TextOf(id)] = std::move(object);
 }
 
+void TestObject::BreakWith(const std::shared_ptr<LinkBreak>& theLink) {
+  link = theLink;
+  type_ = WithBreak(type_, link);
+}
+
 void TestObject::Answer(std::function<void(VARIANT&)> fill) {
   onCall = [fill = std::move(fill)](const Received& call) {
     fill(*call.result);
@@ -40,6 +45,7 @@ HRESULT TestObject::QueryInterface(REFIID id, void** result) {
   }
   ++questions;
   *result = nullptr;
+  if (link->IsNow()) return link->with;
   const auto other = others.find(TextOf(id));
   return other == others.end() ? E_NOINTERFACE
                                : other->second.CopyTo(reinterpret_cast<TestObject**>(result));
@@ -58,6 +64,7 @@ HRESULT TestObject::GetTypeInfoCount(UINT* count) {
 
 HRESULT TestObject::GetTypeInfo(UINT, LCID, ITypeInfo** type) {
   ++typeQuestions;
+  if (link->IsNow()) return link->with;
   return type_ != nullptr ? type_.CopyTo(type) : DISP_E_BADINDEX;
 }
 

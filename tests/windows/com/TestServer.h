@@ -10,6 +10,7 @@
 #include "hostlib/com/ComLibrary.h"
 #include "hostlib/com/ProgIds.h"
 #include "hostlib/com/TypeOwners.h"
+#include "tests/windows/com/DyingTypes.h"
 
 namespace com_tests {
 
@@ -48,8 +49,11 @@ class TestObject : public IDispatch {
   std::vector<DISPID> calls;
   int questions = 0;      ///< for other interfaces
   int typeQuestions = 0;  ///< for its type information
+  std::shared_ptr<LinkBreak> link = std::make_shared<LinkBreak>();
 
   void AddInterface(const IID& id, ComPtr<TestObject> object);
+  /// Its questions and those for its types share the break.
+  void BreakWith(const std::shared_ptr<LinkBreak>& theLink);
   /// The answer to every call.
   void Answer(std::function<void(VARIANT&)> fill);
   ULONG references() const { return references_; }
