@@ -102,7 +102,42 @@ Value VariantRows(SAFEARRAY* array) {
   return NumbersValue(numbers);
 }
 
+// One row of an array, as the functions for rows want it.
+void* PlaceOf(VARIANT& row, VARTYPE rowType) {
+  return rowType == VT_VARIANT ? static_cast<void*>(&row) : &row.byref;
+}
+
+HRESULT ConvertRow(SAFEARRAY* from, VARTYPE fromType, SAFEARRAY* to, VARTYPE toType, LONG at) {
+  Variant row;
+  if (fromType != VT_VARIANT) row.get().vt = fromType;
+  HRESULT result = SafeArrayGetElement(from, &at, PlaceOf(row.get(), fromType));
+  if (SUCCEEDED(result) && toType != VT_VARIANT) {
+    result = VariantChangeTypeEx(&row.get(), &row.get(), LOCALE_INVARIANT, 0, toType);
+  }
+  if (FAILED(result)) return result;
+  // Texts and objects are handed over as the pointers that they are, and copied.
+  const bool isPointer = toType == VT_BSTR || toType == VT_DISPATCH || toType == VT_UNKNOWN;
+  return SafeArrayPutElement(to, &at, isPointer ? row.get().byref : PlaceOf(row.get(), toType));
+}
+
 }  // namespace
+
+HRESULT ConvertRows(VARIANT& array, VARTYPE type) {
+  if ((type & VT_ARRAY) == 0) return DISP_E_TYPEMISMATCH;
+  const auto fromType = static_cast<VARTYPE>(array.vt & VT_TYPEMASK);
+  const auto toType = static_cast<VARTYPE>(type & VT_TYPEMASK);
+  const Extent extent = ExtentOf(array.parray);
+  SafeArray converted(NewArray(toType, extent.rows, extent.lower));
+  for (std::size_t i = 0; i < extent.rows; ++i) {
+    const LONG at = extent.lower + static_cast<LONG>(i);
+    const HRESULT result = ConvertRow(array.parray, fromType, converted.get(), toType, at);
+    if (FAILED(result)) return result;
+  }
+  VariantClear(&array);
+  array.parray = converted.Release();
+  array.vt = type;
+  return S_OK;
+}
 
 double NumberIn(const VARIANT& variant) {
   Variant number;

@@ -14,6 +14,9 @@ Variant ArrayVariant(const DoubleArray& array);
 /// without rows has no kind and gives an empty value.
 Value ArrayValue(SAFEARRAY* array, VARTYPE rowType);
 
+/// Makes the array in a variant one of another type, a VT_ARRAY, row by row.
+HRESULT ConvertRows(VARIANT& array, VARTYPE type);
+
 /// The number in a variant of any numeric kind.
 double NumberIn(const VARIANT& variant);
 

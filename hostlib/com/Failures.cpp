@@ -30,6 +30,10 @@ const wchar_t* WordsFor(LibraryError::Outcome outcome) {
 
 std::wstring TextIn(BSTR text) { return {text == nullptr ? L"" : text, SysStringLen(text)}; }
 
+std::wstring Words(const std::wstring& what, HRESULT result) {
+  return what.empty() ? TextOf(result) : what + L": " + TextOf(result);
+}
+
 }  // namespace
 
 std::wstring TextOf(HRESULT result) {
@@ -45,8 +49,7 @@ std::wstring TextOf(HRESULT result) {
 
 void ThrowLinkError(HRESULT result, const std::wstring& what) {
   const LibraryError::Outcome outcome = OutcomeOf(static_cast<std::uint32_t>(result));
-  const std::wstring text = what.empty() ? TextOf(result) : what + L": " + TextOf(result);
-  throw LibraryError(result, kSource, text + WordsFor(outcome), outcome);
+  throw LibraryError(result, kSource, Words(what, result) + WordsFor(outcome), outcome);
 }
 
 bool IsAnswered(HRESULT result) {
@@ -56,10 +59,12 @@ bool IsAnswered(HRESULT result) {
   return SUCCEEDED(result);
 }
 
-void CheckAnswered(HRESULT result) {
+void CheckAnswered(HRESULT result) { CheckBeforeCall(result, L""); }
+
+void CheckBeforeCall(HRESULT result, const std::wstring& what) {
   if (SUCCEEDED(result)) return;
   constexpr auto kOutcome = LibraryError::Outcome::kNotSent;
-  throw LibraryError(result, kSource, TextOf(result) + WordsFor(kOutcome), kOutcome);
+  throw LibraryError(result, kSource, Words(what, result) + WordsFor(kOutcome), kOutcome);
 }
 
 bool IsOfTheLink(const LibraryError& error) {

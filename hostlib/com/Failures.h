@@ -23,8 +23,10 @@ inline void Check(HRESULT result, const std::wstring& what = {}) {
 /// Whether a question about the library's types was answered. Throws when the link failed, so that
 /// a terminal that goes away is not taken for one that lacks what was asked for.
 bool IsAnswered(HRESULT result);
-/// ... and throws for every failure. With such a question nothing of an entry is sent.
+/// ... and throws for every failure.
 void CheckAnswered(HRESULT result);
+/// A failure before the call itself: nothing of it has been sent.
+void CheckBeforeCall(HRESULT result, const std::wstring& what);
 /// The failure is one of the link: a later try may go well.
 bool IsOfTheLink(const LibraryError& error);
 

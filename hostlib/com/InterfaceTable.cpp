@@ -26,22 +26,77 @@ TypeInfo TableHalf(const TypeInfo& type) {
   return Referenced(type, kOtherHalf);
 }
 
-VARTYPE ReferenceType(const ELEMDESC& parameter) {
-  if (parameter.tdesc.vt != VT_PTR) return VT_EMPTY;
-  switch (const VARTYPE pointed = parameter.tdesc.lptdesc->vt) {
-    case VT_VARIANT:
-    case VT_BSTR:
-    case VT_BOOL:
-    case VT_I2:
-    case VT_I4:
-    case VT_R8:
-      return pointed;
+/// What one type of a type library is to a variant.
+struct Seen {
+  VARTYPE type = VT_EMPTY;   ///< VT_EMPTY: nothing that a variant can refer to
+  bool isInterface = false;  ///< a pointer to it is an object
+};
+
+Seen SeenAs(const TypeInfo& owner, const TYPEDESC& description);
+
+Seen SeenAsNamed(const TypeInfo& owner, HREFTYPE reference) {
+  TypeInfo type;
+  if (!IsAnswered(owner->GetRefTypeInfo(reference, &type))) return {};
+  const TypeAttributes attributes(type);
+  switch (attributes->typekind) {
+    case TKIND_ENUM:
+      return {VT_I4};
+    case TKIND_ALIAS:
+      return SeenAs(type, attributes->tdescAlias);
+    case TKIND_INTERFACE:
+    case TKIND_DISPATCH:
+    case TKIND_COCLASS:
+      return {VT_EMPTY, true};
     default:
-      return VT_EMPTY;
+      return {};
   }
 }
 
-Member Described(const FunctionDescription& function) {
+Seen SeenAs(const TypeInfo& owner, const TYPEDESC& description) {
+  switch (description.vt) {
+    case VT_PTR:
+      return SeenAs(owner, *description.lptdesc).isInterface ? Seen{VT_DISPATCH} : Seen{};
+    case VT_SAFEARRAY: {
+      const VARTYPE row = SeenAs(owner, *description.lptdesc).type;
+      return {static_cast<VARTYPE>(row == VT_EMPTY ? VT_EMPTY : VT_ARRAY | row)};
+    }
+    case VT_USERDEFINED:
+      return SeenAsNamed(owner, description.hreftype);
+    case VT_INT:
+    case VT_HRESULT:
+      return {VT_I4};
+    case VT_UINT:
+      return {VT_UI4};
+    case VT_VARIANT:
+    case VT_BSTR:
+    case VT_BOOL:
+    case VT_DISPATCH:
+    case VT_UNKNOWN:
+    case VT_I1:
+    case VT_UI1:
+    case VT_I2:
+    case VT_UI2:
+    case VT_I4:
+    case VT_UI4:
+    case VT_I8:
+    case VT_UI8:
+    case VT_R4:
+    case VT_R8:
+    case VT_CY:
+    case VT_DATE:
+    case VT_ERROR:
+      return {description.vt};
+    default:
+      return {};
+  }
+}
+
+VARTYPE ReferenceType(const TypeInfo& owner, const ELEMDESC& parameter) {
+  if (parameter.tdesc.vt != VT_PTR) return VT_EMPTY;
+  return SeenAs(owner, *parameter.tdesc.lptdesc).type;
+}
+
+Member Described(const TypeInfo& owner, const FunctionDescription& function) {
   Member member;
   member.id = function->memid;
   member.kind = static_cast<WORD>(function->invkind);
@@ -49,7 +104,7 @@ Member Described(const FunctionDescription& function) {
     const ELEMDESC& parameter = function->lprgelemdescParam[i];
     constexpr USHORT kNotAnArgument = PARAMFLAG_FRETVAL | PARAMFLAG_FLCID;
     if ((parameter.paramdesc.wParamFlags & kNotAnArgument) != 0) continue;
-    member.references.push_back(ReferenceType(parameter));
+    member.references.push_back(ReferenceType(owner, parameter));
   }
   return member;
 }
@@ -87,7 +142,7 @@ std::optional<Member> InterfaceTable::MemberIn(const Level& level, int slot) con
   const auto tried = [&](UINT index) -> std::optional<Member> {
     const FunctionDescription function(level.type, index);
     if ((function->oVft & kOffsetMask) != wanted) return std::nullopt;
-    return Described(function);
+    return Described(level.type, function);
   };
   // Functions mostly stand in the order of their slots; to ask for one costs a round trip.
   const auto guess = static_cast<UINT>(slot - kStandardEntries);

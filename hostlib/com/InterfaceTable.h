@@ -11,7 +11,8 @@ namespace hostlib::com {
 struct Member {
   DISPID id = DISPID_VALUE;
   WORD kind = DISPATCH_METHOD | DISPATCH_PROPERTYGET;
-  /// For every argument the type that it is handed over by reference as, or VT_EMPTY.
+  /// For every argument the type that it is handed over by reference as, or VT_EMPTY for one that
+  /// goes by value.
   std::vector<VARTYPE> references;
 };
 

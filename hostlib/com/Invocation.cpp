@@ -3,13 +3,31 @@
 #include <algorithm>
 
 #include "common/Numbers.h"
+#include "hostlib/com/ArrayValues.h"
 #include "hostlib/com/Failures.h"
 
 namespace hostlib::com {
 namespace {
 
+// Makes what is to be handed over by reference one of the declared type.
+HRESULT Convert(VARIANT& held, VARTYPE type) {
+  if (held.vt == type) return S_OK;
+  const bool mayBeNone = (type & VT_ARRAY) != 0 || type == VT_DISPATCH || type == VT_UNKNOWN;
+  if (held.vt == VT_EMPTY && mayBeNone) {
+    held.byref = nullptr;
+    held.vt = type;
+    return S_OK;
+  }
+  if ((held.vt & VT_ARRAY) != 0) return ConvertRows(held, type);
+  return VariantChangeTypeEx(&held, &held, LOCALE_INVARIANT, 0, type);
+}
+
+std::wstring ArgumentName(std::size_t number) {
+  return L"Argument " + common::NumberText(static_cast<std::int32_t>(number));
+}
+
 // The argument as its parameter wants it; `holder` keeps what is handed over by reference.
-VARIANT HandedOver(Variant& holder, VARTYPE reference) {
+VARIANT HandedOver(Variant& holder, VARTYPE reference, const std::wstring& name) {
   VARIANT argument = holder.get();
   // What is left out is never a reference.
   if (reference == VT_EMPTY || holder.type() == VT_ERROR) return argument;
@@ -18,7 +36,7 @@ VARIANT HandedOver(Variant& holder, VARTYPE reference) {
     argument.pvarVal = &holder.get();
     return argument;
   }
-  Check(VariantChangeTypeEx(&holder.get(), &holder.get(), LOCALE_INVARIANT, 0, reference));
+  CheckBeforeCall(Convert(holder.get(), reference), name);
   argument.vt = static_cast<VARTYPE>(VT_BYREF | reference);
   argument.byref = &holder.get().byref;
   return argument;
@@ -27,8 +45,9 @@ VARIANT HandedOver(Variant& holder, VARTYPE reference) {
 std::vector<VARIANT> InCallOrder(std::vector<Variant>& arguments, const Member& member) {
   std::vector<VARIANT> handed;
   for (std::size_t i = 0; i < arguments.size(); ++i) {
-    handed.push_back(HandedOver(
-        arguments[i], i < member.references.size() ? member.references[i] : VARTYPE{VT_EMPTY}));
+    const VARTYPE reference =
+        i < member.references.size() ? member.references[i] : VARTYPE{VT_EMPTY};
+    handed.push_back(HandedOver(arguments[i], reference, ArgumentName(i + 1)));
   }
   std::reverse(handed.begin(), handed.end());
   return handed;
@@ -56,8 +75,7 @@ Variant InvokeMember(IDispatch& object, const Member& member, std::vector<Varian
                     isPut ? nullptr : &result.get(), exception.Out(), &badArgument);
   if (outcome == DISP_E_EXCEPTION) throw exception.Error();
   if (NamesAnArgument(outcome) && badArgument < count) {
-    ThrowLinkError(
-        outcome, L"Argument " + common::NumberText(static_cast<std::int32_t>(count - badArgument)));
+    ThrowLinkError(outcome, ArgumentName(count - badArgument));
   }
   Check(outcome);
   return result;
