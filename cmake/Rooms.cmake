@@ -26,6 +26,8 @@ if(WIN32)
   # GCC 12 for this target, optimising for size, takes a call through hostlib::Library& whose final
   # type it knows for one that never returns, and drops what follows: constructors end half-way.
   target_compile_options(pta_flags INTERFACE "$<$<COMPILE_LANGUAGE:CXX>:-fno-devirtualize>")
+  # Without these every file keeps copies of its own of the wide strings' functions, made to measure.
+  target_compile_options(pta_flags INTERFACE "$<$<COMPILE_LANGUAGE:CXX>:-fno-ipa-cp;-fno-ipa-sra>")
   target_link_options(pta_flags INTERFACE -fstack-protector-strong)
 endif()
 if(PTA_SANITIZE)
