@@ -13,7 +13,11 @@ ObjectPtr MakeBag(Workshop& workshop) { return workshop.MakeBag(); }
 
 ObjectPtr MakeScriptGlobal(Workshop& workshop) {
   return workshop.Make<ScriptGlobalObject>(
-      workshop.with.platform, [&workshop] { return workshop.options.attachRefused; },
+      workshop.with.platform,
+      [&workshop](const AttachedProgram& program) {
+        workshop.attached = program;
+        return workshop.options.attachRefused;
+      },
       &workshop.lastError);
 }
 
@@ -70,6 +74,8 @@ ObjectPtr PracticeLibrary::Create(std::wstring_view className) {
 }
 
 PracticeLibrary::Options& PracticeLibrary::options() { return workshop_->options; }
+
+const AttachedProgram& PracticeLibrary::attached() const { return workshop_->attached; }
 
 int PracticeLibrary::LiveObjects() const { return workshop_->live; }
 

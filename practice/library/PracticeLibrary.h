@@ -6,6 +6,7 @@
 #include "hostlib/Object.h"
 #include "platform/Platform.h"
 #include "practice/host/Host.h"
+#include "practice/library/AttachedProgram.h"
 #include "practice/library/Stores.h"
 
 namespace practice {
@@ -39,6 +40,8 @@ class PracticeLibrary : public hostlib::Library {
 
   /// May be changed at any time.
   Options& options();
+  /// The program that attached last.
+  const AttachedProgram& attached() const;
   /// Objects made and not yet released, bags and lists included.
   int LiveObjects() const;
 

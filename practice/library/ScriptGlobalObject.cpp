@@ -114,8 +114,8 @@ std::wstring FormatAssociation(const std::wstring& list) {
 
 }  // namespace
 
-ScriptGlobalObject::ScriptGlobalObject(const platform::Platform& platform,
-                                       std::function<bool()> attachRefused, LastError* lastError)
+ScriptGlobalObject::ScriptGlobalObject(const platform::Platform& platform, OnAttach onAttach,
+                                       LastError* lastError)
     : PracticeObject(hostlib::operations::script_global::kClass, lastError) {
   using namespace hostlib::operations::script_global;
   On(kGetField, [](const Arguments& a) { return Field(a[0].Text(), a[1].Long(), a[2].Text()); });
@@ -124,8 +124,12 @@ ScriptGlobalObject::ScriptGlobalObject(const platform::Platform& platform,
      [&platform](const Arguments& a) { return TextToHostDate(platform, a[0].Text()); });
   On(kToText, [](const Arguments& a) { return ToText(a[0]); });
   On(kToBoolean, [](const Arguments& a) { return ToBoolean(a[0]); });
-  On(kAttach,
-     [attachRefused = std::move(attachRefused)](const Arguments&) { return attachRefused(); });
+  On(kAttach, [onAttach = std::move(onAttach), lastError](const Arguments& a) {
+    const AttachedProgram program = ReadAttachedProgram(a[0], a[1]);
+    // What the program did not answer is no failure of the library.
+    if (lastError != nullptr) *lastError = {};
+    return onAttach(program);
+  });
   On(kFormatAssociation, [](const Arguments& a) { return FormatAssociation(a[0].Text()); });
 }
 

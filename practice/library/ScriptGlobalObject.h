@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Platform.h"
+#include "practice/library/AttachedProgram.h"
 #include "practice/library/PracticeObject.h"
 
 namespace practice {
@@ -14,9 +15,10 @@ namespace practice {
 /// more are shortened: 2,3,4,7 is 2-4,7. A list that holds anything else stays as it is.
 class ScriptGlobalObject : public PracticeObject {
  public:
-  /// `attachRefused` is asked at each Attach: True ends the calling program at once.
-  ScriptGlobalObject(const platform::Platform& platform, std::function<bool()> attachRefused,
-                     LastError* lastError);
+  /// Told of the program at each Attach; True ends it at once.
+  using OnAttach = std::function<bool(const AttachedProgram& program)>;
+
+  ScriptGlobalObject(const platform::Platform& platform, OnAttach onAttach, LastError* lastError);
 };
 
 }  // namespace practice

@@ -34,6 +34,7 @@ class Workshop : public std::enable_shared_from_this<Workshop> {
   PracticeLibrary::Options options;
   LastError lastError;
   std::optional<PnrDisplayText> loaded;
+  AttachedProgram attached;
   int live = 0;
 
   template <typename T, typename... Arguments>

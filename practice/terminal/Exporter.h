@@ -23,7 +23,8 @@ class Exporter : public hostlib::com::ObjectGate {
   /// A new COM object for it, with one reference; null for a null object. Throws LibraryError when
   /// the type library does not describe the object's class.
   ComPtr<IDispatch> Outward(const hostlib::ObjectPtr& object) override;
-  /// An object that this process handed out, or one that answers no call; null for null.
+  /// An object that this process handed out, or one of which only properties can be read that are
+  /// known by name; null for null.
   hostlib::ObjectPtr Inward(ComPtr<IDispatch> object, std::wstring_view className) override;
 
   const TypeLibrary& types() const { return types_; }

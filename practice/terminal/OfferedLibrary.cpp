@@ -16,7 +16,8 @@ constexpr std::wstring_view kDeskClass = L"PracticeDesk";
 /// The desk by slots, as any object of the library.
 class DeskObject : public PracticeObject {
  public:
-  DeskObject(Desk& desk, const Exporter& exporter) : PracticeObject(kDeskClass, nullptr) {
+  DeskObject(Desk& desk, const PracticeLibrary& library, const Exporter& exporter)
+      : PracticeObject(kDeskClass, nullptr) {
     OnSlot(7, [&exporter](const Arguments&) {
       return Value(static_cast<std::int32_t>(exporter.Live()));
     });
@@ -54,6 +55,11 @@ class DeskObject : public PracticeObject {
       });
       return Value();
     });
+    OnSlot(18, [&library](const Arguments&) {
+      const AttachedProgram& program = library.attached();
+      return Value(program.caption + L"\n" + program.text + L"\n" + program.title + L"\n" +
+                   program.folder + L"\n" + std::to_wstring(program.instance));
+    });
     OnSlot(15, [&desk](const Arguments&) {
       return Value(static_cast<std::int32_t>(desk.EntryCount()));
     });
@@ -63,7 +69,7 @@ class DeskObject : public PracticeObject {
 }  // namespace
 
 hostlib::ObjectPtr OfferedLibrary::Create(std::wstring_view className) {
-  if (className == kDeskClass) return std::make_shared<DeskObject>(desk_, exporter_);
+  if (className == kDeskClass) return std::make_shared<DeskObject>(desk_, library_, exporter_);
   return library_.Create(className);
 }
 

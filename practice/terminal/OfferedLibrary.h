@@ -1,6 +1,6 @@
 #pragma once
 
-#include "hostlib/Object.h"
+#include "practice/library/PracticeLibrary.h"
 #include "practice/terminal/Desk.h"
 #include "practice/terminal/Exporter.h"
 
@@ -9,13 +9,13 @@ namespace practice::terminal {
 /// What the terminal offers by COM: the script library's objects, and the trainer's desk.
 class OfferedLibrary : public hostlib::Library {
  public:
-  OfferedLibrary(hostlib::Library& library, Desk& desk, const Exporter& exporter)
+  OfferedLibrary(PracticeLibrary& library, Desk& desk, const Exporter& exporter)
       : library_(library), desk_(desk), exporter_(exporter) {}
 
   hostlib::ObjectPtr Create(std::wstring_view className) override;
 
  private:
-  hostlib::Library& library_;
+  PracticeLibrary& library_;
   Desk& desk_;
   const Exporter& exporter_;
 };

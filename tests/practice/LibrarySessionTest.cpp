@@ -42,6 +42,40 @@ TEST_F(LibraryObjects, AttachSaysWhatItWasToldTo) {
   EXPECT_TRUE(bench.global.Attach(nullptr, nullptr));
 }
 
+/// An object of a program that attaches: what it answers by slot, from the first on.
+class Answering : public hostlib::Object {
+ public:
+  explicit Answering(std::vector<Value> answers) : answers_(std::move(answers)) {}
+  std::wstring_view ClassName() const override { return L"Answering"; }
+  Value Call(int slot, const hostlib::Arguments&) override {
+    const auto index = static_cast<std::size_t>(slot - 7);
+    if (index >= answers_.size()) throw LibraryError(1, L"program", L"Not asked for");
+    return answers_[index];
+  }
+  hostlib::ObjectPtr Interface(int) override { return nullptr; }
+
+ private:
+  std::vector<Value> answers_;
+};
+
+hostlib::ObjectPtr ObjectThatAnswers(std::vector<Value> answers) {
+  return std::make_shared<Answering>(std::move(answers));
+}
+
+TEST_F(LibraryObjects, AttachReadsTheProgressFormAndTheApplication) {
+  bench.global.Attach(ObjectThatAnswers({Value(L"the caption"), Value(L"Reading...")}),
+                      ObjectThatAnswers({Value(L"the title"), Value(L"C:\\PTA"), Value(3)}));
+  EXPECT_EQ(bench.library.attached(),
+            (AttachedProgram{L"the caption", L"Reading...", L"the title", L"C:\\PTA", 3}));
+}
+
+TEST_F(LibraryObjects, AttachTakesObjectsThatAnswerNothingOrSomethingElse) {
+  EXPECT_FALSE(bench.global.Attach(bench.library.Create(hostlib::operations::kBag),
+                                   ObjectThatAnswers({Value(7), Value(), Value(L"three")})));
+  EXPECT_EQ(bench.library.attached(), AttachedProgram());
+  EXPECT_EQ(bench.reporter.LastErrorNumber(), 0);
+}
+
 TEST_F(LibraryObjects, SessionTakes75CharactersAsAnEntryAndNotOneMore) {
   const std::wstring entry = L"RM " + std::wstring(72, L'A');
   EXPECT_TRUE(bench.session.SendEntry(entry).starts_with(L"PNR "));

@@ -89,6 +89,8 @@ std::vector<std::wstring> PracticeTerminal::Entries() const {
   return entries;
 }
 
+std::wstring PracticeTerminal::Attached() const { return client::TextIn(AskDesk(L"AttachedText")); }
+
 int PracticeTerminal::EntryCount() const {
   return static_cast<int>(AskDesk(L"EntryCount").get().lVal);
 }

@@ -32,6 +32,9 @@ class PracticeTerminal {
   /// What the host was asked, in order, since the booking was opened.
   std::vector<std::wstring> Entries() const;
   std::wstring Transcript() const;
+  /// The program that attached last: its progress form's caption and text, its title, folder and
+  /// instance, a line each.
+  std::wstring Attached() const;
   /// How many entries have arrived, with the one that waits for its answer.
   int EntryCount() const;
   /// Every entry takes this long.

@@ -1,9 +1,12 @@
 #include <thread>
 
+#include "app/AttachObjects.h"
+#include "hostlib/ScriptGlobal.h"
 #include "hostlib/com/LibraryCheck.h"
 #include "tests/windows/com/run/RoundTrips.h"
 #include "tests/windows/com/run/RunningTerminal.h"
 #include "tests/windows/driver/Driver.h"
+#include "ui/frmWorking.h"
 
 namespace com_run {
 namespace {
@@ -90,6 +93,20 @@ TEST_F(Link, EveryKindOfValueComesBackAsItWent) {
         EXPECT_EQ(got, value);
       }
     }
+  });
+}
+
+TEST_F(Link, TheTerminalReadsTheProgressFormAndTheApplicationThatAttach) {
+  Telling([&] {
+    Start();
+    ui::frmWorking form;
+    form.SetCaption(L"  PTA Script ");
+    hostlib::ScriptGlobal global(library_);
+    EXPECT_FALSE(global.Attach(app::MakeProgressFormObject(form, form.lblWorking),
+                               app::MakeApplicationObject(platform_)));
+    EXPECT_EQ(terminal_->Attached(),
+              L"  PTA Script \nRetrieving information from Corvane...\n  PTA Script \n" +
+                  platform_.folder + L"\n1");
   });
 }
 
