@@ -5,7 +5,10 @@
 #include <tlhelp32.h>
 // clang-format on
 
+#include <algorithm>
 #include <memory>
+
+#include "hostlib/Object.h"
 
 namespace hostlib::com {
 namespace {
@@ -37,53 +40,112 @@ bool IsInOurSession(DWORD process) {
          ProcessIdToSessionId(GetCurrentProcessId(), &ours) != 0 && theirs == ours;
 }
 
-bool IsElevatedProcess(DWORD id) {
-  if (!IsInOurSession(id)) return false;
-  const Handle process = Owned(OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, id));
-  return process != nullptr && IsElevated(process.get());
+// Empty when it is not elevated.
+std::wstring PathOfElevated(const PROCESSENTRY32W& entry) {
+  if (!IsInOurSession(entry.th32ProcessID)) return {};
+  const Handle process =
+      Owned(OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, entry.th32ProcessID));
+  if (process == nullptr) return GetLastError() == ERROR_ACCESS_DENIED ? entry.szExeFile : L"";
+  if (!IsElevated(process.get())) return {};
+  wchar_t path[1024];
+  auto length = static_cast<DWORD>(std::size(path));
+  const bool isTold = QueryFullProcessImageNameW(process.get(), 0, path, &length) != 0;
+  return isTold ? path : entry.szExeFile;
+}
+
+struct CloseKeyLater {
+  void operator()(HKEY key) const { RegCloseKey(key); }
+};
+
+std::wstring Registered(const std::wstring& key, REGSAM view) {
+  HKEY opened = nullptr;
+  if (RegOpenKeyExW(HKEY_CLASSES_ROOT, key.c_str(), 0, KEY_QUERY_VALUE | view, &opened) !=
+      ERROR_SUCCESS) {
+    return {};
+  }
+  const std::unique_ptr<std::remove_pointer_t<HKEY>, CloseKeyLater> closed(opened);
+  wchar_t text[1024];
+  DWORD size = sizeof(text);
+  const bool isRead =
+      RegGetValueW(opened, nullptr, nullptr, RRF_RT_REG_SZ, nullptr, text, &size) == ERROR_SUCCESS;
+  return isRead ? text : L"";
+}
+
+std::wstring Unquoted(std::wstring path) {
+  std::erase(path, L'"');
+  return path;
+}
+
+// The last part of a path, or all before it.
+std::wstring FileName(const std::wstring& path) {
+  return path.substr(path.find_last_of(L"\\/") + 1);
+}
+std::wstring Folder(const std::wstring& path) {
+  const auto end = path.find_last_of(L"\\/");
+  return end == path.npos ? std::wstring() : path.substr(0, end);
+}
+
+bool AreSame(const std::wstring& one, const std::wstring& other) {
+  return !one.empty() && lstrcmpiW(one.c_str(), other.c_str()) == 0;
+}
+
+bool BelongTogether(const ClassServer& server, const std::wstring& program) {
+  return server.isLibrary ? AreSame(Folder(server.path), Folder(program))
+                          : AreSame(FileName(server.path), FileName(program));
 }
 
 }  // namespace
 
-bool IsThisProgramElevated() { return IsElevated(GetCurrentProcess()); }
+bool ThisMachine::IsThisProgramElevated() const { return IsElevated(GetCurrentProcess()); }
 
-std::wstring LocalServerOf(const CLSID& classId) {
+std::vector<ClassServer> ThisMachine::ServersOf(const CLSID& classId) const {
   wchar_t id[64];
   if (StringFromGUID2(classId, id, static_cast<int>(std::size(id))) == 0) return {};
-  const std::wstring key = L"CLSID\\" + std::wstring(id) + L"\\LocalServer32";
-  wchar_t command[1024];
-  DWORD size = sizeof(command);
-  if (RegGetValueW(HKEY_CLASSES_ROOT, key.c_str(), nullptr, RRF_RT_REG_SZ, nullptr, command,
-                   &size) != ERROR_SUCCESS) {
-    return {};
+  const std::wstring key = L"CLSID\\" + std::wstring(id);
+  std::vector<ClassServer> servers;
+  const auto add = [&servers](const ClassServer& server) {
+    const bool isKnown = std::find(servers.begin(), servers.end(), server) != servers.end();
+    if (!server.path.empty() && !isKnown) servers.push_back(server);
+  };
+  for (const REGSAM view : {KEY_WOW64_64KEY, KEY_WOW64_32KEY}) {
+    add({ProgramIn(Registered(key + L"\\LocalServer32", view)), false});
+    add({Unquoted(Registered(key + L"\\InprocServer32", view)), true});
   }
-  return ProgramIn(command);
+  return servers;
 }
 
-bool RunsElevated(const std::wstring& fileName) {
+std::vector<std::wstring> ThisMachine::ElevatedPrograms() const {
+  std::vector<std::wstring> programs;
   const Handle snapshot = Owned(CreateToolhelp32Snapshot(TH32CS_SNAPPROCESS, 0));
-  if (snapshot == nullptr) return false;
+  if (snapshot == nullptr) return programs;
   PROCESSENTRY32W entry{};
   entry.dwSize = sizeof(entry);
   for (BOOL more = Process32FirstW(snapshot.get(), &entry); more != 0;
        more = Process32NextW(snapshot.get(), &entry)) {
-    if (lstrcmpiW(entry.szExeFile, fileName.c_str()) == 0 &&
-        IsElevatedProcess(entry.th32ProcessID)) {
-      return true;
-    }
+    std::wstring path = PathOfElevated(entry);
+    if (!path.empty()) programs.push_back(std::move(path));
   }
-  return false;
+  return programs;
+}
+
+bool IsOutOfReach(const Machine& machine, const CLSID& classId, HRESULT failure) {
+  if (machine.IsThisProgramElevated()) return false;
+  if (failure == E_ACCESSDENIED || failure == kTerminalIsElevated) return true;
+  const std::vector<ClassServer> servers = machine.ServersOf(classId);
+  if (servers.empty()) return false;
+  const std::vector<std::wstring> programs = machine.ElevatedPrograms();
+  return std::any_of(servers.begin(), servers.end(), [&](const ClassServer& server) {
+    return std::any_of(programs.begin(), programs.end(), [&](const std::wstring& program) {
+      return BelongTogether(server, program);
+    });
+  });
 }
 
 std::wstring ProgramIn(const std::wstring& commandLine) {
-  std::wstring path = commandLine;
-  if (path.starts_with(L'"')) {
-    path = path.substr(1, path.find(L'"', 1) - 1);
-  } else if (const auto arguments = path.find(L" /"); arguments != path.npos) {
-    path.resize(arguments);
+  if (commandLine.starts_with(L'"')) {
+    return commandLine.substr(1, commandLine.find(L'"', 1) - 1);
   }
-  const auto folder = path.find_last_of(L"\\/");
-  return folder == path.npos ? path : path.substr(folder + 1);
+  return commandLine.substr(0, commandLine.find(L" /"));
 }
 
 }  // namespace hostlib::com

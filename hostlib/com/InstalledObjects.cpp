@@ -1,4 +1,3 @@
-#include "hostlib/com/CallOutcome.h"
 #include "hostlib/com/Elevation.h"
 #include "hostlib/com/ObjectSource.h"
 
@@ -14,12 +13,7 @@ HRESULT InstalledObjects::Make(const CLSID& classId, Microsoft::WRL::ComPtr<IDis
 }
 
 bool InstalledObjects::IsOutOfReach(const CLSID& classId, HRESULT failure) {
-  if (IsThisProgramElevated()) return false;
-  if (failure == E_ACCESSDENIED || failure == kTerminalIsElevated) {
-    return true;
-  }
-  const std::wstring program = LocalServerOf(classId);
-  return !program.empty() && RunsElevated(program);
+  return com::IsOutOfReach(ThisMachine(), classId, failure);
 }
 
 }  // namespace hostlib::com
