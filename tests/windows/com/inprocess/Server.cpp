@@ -1,11 +1,14 @@
 // A script library as terminal programs bring it along: a DLL that is loaded into the program. Of
-// its classes it has the session, which answers with what it was given.
+// its classes it has the session, which answers with what it was given. Like theirs it needs
+// another DLL.
 #include <TestLibrary.h>
 
 #include <array>
 #include <atomic>
 #include <new>
 #include <string>
+
+extern "C" __declspec(dllimport) int CompanionVersion(void);
 
 namespace {
 
@@ -123,7 +126,7 @@ class Factory final : public Counted<IClassFactory> {
 }  // namespace
 
 extern "C" HRESULT STDAPICALLTYPE DllGetClassObject(REFCLSID classId, REFIID id, void** result) {
-  if (classId != __uuidof(TestSession)) return CLASS_E_CLASSNOTAVAILABLE;
+  if (classId != __uuidof(TestSession) || CompanionVersion() != 1) return CLASS_E_CLASSNOTAVAILABLE;
   auto* factory = new Factory;
   const HRESULT answer = factory->QueryInterface(id, result);
   factory->Release();

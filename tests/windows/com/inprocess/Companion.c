@@ -1,0 +1,3 @@
+/* What the library in Server.cpp needs beside itself. */
+__declspec(dllexport) int CompanionVersion(void);
+int CompanionVersion(void) { return 1; }
