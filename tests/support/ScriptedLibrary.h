@@ -71,7 +71,7 @@ class ScriptedLibrary : public hostlib::Library {
     if (className == hostlib::operations::script_global::kClass &&
         !IsScripted(hostlib::operations::script_global::kClass)) {
       return std::make_shared<practice::ScriptGlobalObject>(
-          platform, [] { return false; }, nullptr);
+          platform, [](const practice::AttachedProgram&) { return false; }, nullptr);
     }
     return std::make_shared<ScriptedObject>(std::wstring(className), 1, *this);
   }
