@@ -3,7 +3,6 @@
 #include "app/AttachObjects.h"
 #include "hostlib/ScriptGlobal.h"
 #include "hostlib/com/LibraryCheck.h"
-#include "tests/windows/com/run/RoundTrips.h"
 #include "tests/windows/com/run/RunningTerminal.h"
 #include "tests/windows/driver/Driver.h"
 #include "ui/frmWorking.h"
@@ -40,32 +39,6 @@ TEST_F(Link, TheCheckOfTheLibraryLeavesNoObjectBehind) {
     Start();
     hostlib::com::CheckUsedOperations(library_);
     EXPECT_EQ(client::LiveObjects(), 0);
-  });
-}
-
-TEST_F(Link, ABoundCallIsOneRoundTrip) {
-  Telling([&] {
-    Start();
-    RoundTrips::Watch();
-    const auto session = library_.Create(L"TerminalSession");
-    const auto reader = library_.Create(L"PnrReader");
-    session->Call(9, {});
-    const auto ask = [&] {
-      reader->Call(29, {});
-      const auto bag = library_.Create(L"ParameterBag");
-      bag->Call(7, {Value(L"intKeyIndex"), Value(std::int16_t{0})});
-      reader->Interface(2)->Call(17, {Value(bag)});
-      bag->Call(8, {Value(L"intKeyIndex")});
-    };
-    ask();
-    const auto bag = library_.Create(L"ParameterBag");
-    const int before = RoundTrips::Count();
-    ASSERT_GT(before, 0);
-    reader->Call(29, {});
-    bag->Call(7, {Value(L"intKeyIndex"), Value(std::int16_t{0})});
-    reader->Interface(2)->Call(17, {Value(bag)});
-    bag->Call(8, {Value(L"intKeyIndex")});
-    EXPECT_EQ(RoundTrips::Count() - before, 4);
   });
 }
 
