@@ -5,6 +5,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <vector>
 
 #include "bench/windows/HostTime.h"
 #include "bench/windows/resource.h"
@@ -26,7 +27,7 @@ void PrintFigure(const char* what, double figure, double atMost, const char* uni
 }
 
 void Print(const Start& minimal, const Start& program, const bench::HostTime& host) {
-  std::printf("\nStart, fastest in milliseconds: first window, dialog ready; memory in MB\n");
+  std::printf("\nStart, medians in milliseconds: first window, dialog ready; memory in MB\n");
   const auto line = [](const char* name, const Start& start) {
     std::printf("  %-52s %7.0f %7.0f %7.2f\n", name, start.firstWindow.count(), start.ready.count(),
                 start.megabytes);
@@ -46,6 +47,13 @@ void Print(const Start& minimal, const Start& program, const bench::HostTime& ho
   }
 }
 
+void PrintRound(const Start& minimal, const Start& program) {
+  std::printf("  first window %5.0f %5.0f   dialog ready %5.0f %5.0f\n",
+              minimal.firstWindow.count(), program.firstWindow.count(), minimal.ready.count(),
+              program.ready.count());
+  std::fflush(stdout);
+}
+
 std::wstring TextOf(const std::wstring& path) {
   std::FILE* const file = _wfopen(path.c_str(), L"rb");
   if (file == nullptr) throw driver::DriverError(L"Cannot read " + path);
@@ -56,24 +64,24 @@ std::wstring TextOf(const std::wstring& path) {
 }
 
 void Measure(int rounds) {
+  std::puts("Each round in milliseconds, the minimal program and PTA_QX:");
   const terminal::Registered registered;
   terminal::PracticeTerminal terminal(L"ordinary");
   const std::wstring own = terminal::TestProgram();
   const std::wstring folder = own.substr(0, own.find_last_of(L'\\') + 1);
   const std::wstring booking = TextOf(folder + L"pnrs\\ordinary.pnr");
-  Start minimal;
-  Start program;
+  std::vector<Start> minimal;
+  std::vector<Start> program;
   for (int round = 0; round < rounds; ++round) {
-    const Start first = bench::StartOnce(folder + L"pta-minimal.exe", ID_MINIMAL_OK);
+    minimal.push_back(bench::StartOnce(folder + L"pta-minimal.exe", ID_MINIMAL_OK));
     terminal.Load(booking);
-    const Start second = bench::StartOnce(folder + L"PTA_QX.exe", ID_cmdOK);
-    minimal = round == 0 ? first : bench::Least(minimal, first);
-    program = round == 0 ? second : bench::Least(program, second);
+    program.push_back(bench::StartOnce(folder + L"PTA_QX.exe", ID_cmdOK));
+    PrintRound(minimal.back(), program.back());
   }
   terminal.Load(booking);
   hostlib::com::InstalledObjects installed;
   hostlib::com::ComLibrary library(installed);
-  Print(minimal, program, bench::MeasureHostTime(library, rounds));
+  Print(bench::Median(minimal), bench::Median(program), bench::MeasureHostTime(library, rounds));
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 
+#include "bench/windows/HostMemory.h"
 #include "tests/windows/driver/Driver.h"
 
 namespace bench {
@@ -18,7 +19,7 @@ void Await(std::wstring_view what, const std::function<bool()>& condition) {
   if (!driver::Holds(condition, kAtMost, kBetween)) throw driver::DriverError(std::wstring(what));
 }
 
-double PrivateMegabytes(HWND window) {
+double WindowsPrivateMegabytes(HWND window) {
   DWORD process = 0;
   GetWindowThreadProcessId(window, &process);
   const HANDLE handle = OpenProcess(PROCESS_QUERY_INFORMATION | PROCESS_VM_READ, FALSE, process);
@@ -27,6 +28,11 @@ double PrivateMegabytes(HWND window) {
                        sizeof counters);
   CloseHandle(handle);
   return static_cast<double>(counters.PrivateUsage) / (1024 * 1024);
+}
+
+double PrivateMegabytes(HWND window, const std::wstring& path) {
+  const double told = WindowsPrivateMegabytes(window);
+  return told > 0 ? told : HostPrivateMegabytes(path);
 }
 
 }  // namespace
@@ -43,15 +49,22 @@ Start StartOnce(const std::wstring& path, int control) {
     return dialog != nullptr && IsWindowEnabled(GetDlgItem(dialog, control));
   });
   start.ready = std::chrono::steady_clock::now() - begin;
-  start.megabytes = PrivateMegabytes(dialog);
+  start.megabytes = PrivateMegabytes(dialog, path);
   PostMessageW(dialog, WM_CLOSE, 0, 0);
   Await(L"the program does not end", [&] { return !program.IsRunning(); });
   return start;
 }
 
-Start Least(const Start& one, const Start& other) {
-  return {std::min(one.firstWindow, other.firstWindow), std::min(one.ready, other.ready),
-          std::min(one.megabytes, other.megabytes)};
+Start Median(const std::vector<Start>& starts) {
+  const auto middle = [&](auto member) {
+    std::vector<Start> sorted = starts;
+    const auto at = sorted.begin() + static_cast<std::ptrdiff_t>(sorted.size() / 2);
+    std::nth_element(sorted.begin(), at, sorted.end(), [&](const Start& one, const Start& other) {
+      return one.*member < other.*member;
+    });
+    return *at.*member;
+  };
+  return {middle(&Start::firstWindow), middle(&Start::ready), middle(&Start::megabytes)};
 }
 
 }  // namespace bench

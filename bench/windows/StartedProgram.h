@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <string>
+#include <vector>
 
 #include "tests/windows/driver/Program.h"
 
@@ -19,7 +20,7 @@ struct Start {
 /// Starts the program, waits until the control of its dialog can be clicked, and closes the dialog.
 Start StartOnce(const std::wstring& program, int control);
 
-/// The fastest of several starts, and the least memory.
-Start Least(const Start& one, const Start& other);
+/// The median of each figure of several starts.
+Start Median(const std::vector<Start>& starts);
 
 }  // namespace bench

@@ -42,11 +42,24 @@ TypeInfo TypeOf(IDispatch& object) {
   return IsAnswered(object.GetTypeInfo(0, LOCALE_NEUTRAL, &type)) ? type : nullptr;
 }
 
+// The same library as it is registered on this machine, which is read in this process. From the
+// object's own process every single question would cost a round trip. Null when it is not there.
+TypeLibrary RegisteredCopy(ITypeLib& library) {
+  TLIBATTR* attributes = nullptr;
+  if (!IsAnswered(library.GetLibAttr(&attributes))) return nullptr;
+  TypeLibrary copy;
+  LoadRegTypeLib(attributes->guid, attributes->wMajorVerNum, attributes->wMinorVerNum,
+                 attributes->lcid, &copy);
+  library.ReleaseTLibAttr(attributes);
+  return copy;
+}
+
 TypeLibrary LibraryOf(const TypeInfo& type) {
   TypeLibrary library;
   UINT index = 0;
   if (type == nullptr || !IsAnswered(type->GetContainingTypeLib(&library, &index))) return nullptr;
-  return library;
+  TypeLibrary registered = RegisteredCopy(*library.Get());
+  return registered == nullptr ? library : registered;
 }
 
 std::vector<TypeInfo> InterfacesOf(IDispatch& object, const CLSID* classId) {

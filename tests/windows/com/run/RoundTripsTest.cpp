@@ -110,6 +110,20 @@ TEST_F(RoundTripsOfACall, IsOneWithAFreshBag) {
   });
 }
 
+// The types of the registered library are read in this process.
+TEST_F(RoundTripsOfACall, IsOneForTheFirstCallOfAFurtherClass) {
+  Telling([this] {
+    Start();
+    RoundTrips::Watch();
+    library_.Create(L"TerminalSession")->Call(9, {});
+    const auto bag = library_.Create(L"ParameterBag");
+    const int before = RoundTrips::Count();
+    ASSERT_GT(before, 0);
+    bag->Call(7, {Value(L"intKeyIndex"), Value(std::int16_t{0})});
+    EXPECT_EQ(RoundTrips::Count() - before, 1);
+  });
+}
+
 /// Counts the calls, and the objects that are made.
 class CallCount : public hostlib::CallHook {
  public:
