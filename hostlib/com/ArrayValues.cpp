@@ -45,7 +45,8 @@ Extent ExtentOf(SAFEARRAY* array) {
   LONG upper = 0;
   Check(SafeArrayGetLBound(array, 1, &extent.lower));
   Check(SafeArrayGetUBound(array, 1, &upper));
-  extent.rows = static_cast<std::size_t>(upper - extent.lower + 1);
+  // Without a sign: before the lowest bound of an array without rows comes the highest number.
+  extent.rows = static_cast<ULONG>(upper) - static_cast<ULONG>(extent.lower) + 1U;
   return extent;
 }
 
