@@ -31,7 +31,8 @@ bool IsOneOf(std::wstring_view code, std::initializer_list<std::wstring_view> co
 
 std::wstring Host::Enter(std::wstring_view entry) {
   const int number = ++entries_;
-  if (faults.slow) faults.slow(number);
+  // A copy: in the meantime the host may be told to behave.
+  if (const auto slow = faults.slow) slow(number);
   if (faults.dropFrom > 0 && number >= faults.dropFrom) {
     if (faults.dropAnswerOnly && number == faults.dropFrom) Answer(entry);
     throw SessionLost();

@@ -209,6 +209,18 @@ TEST_F(HostScene, FaultsRefuseAnswerGarbageAndAreSlowWhereTheyAreTold) {
   EXPECT_THAT(slow, ElementsAre(1, 2, 3));
 }
 
+TEST_F(HostScene, AHostThatIsSlowMayBeToldToBehaveMeanwhile) {
+  std::wstring after;
+  // Longer than a function keeps within itself.
+  const std::wstring words = L"this is still here when the faults are gone";
+  host.faults.slow = [this, words, &after](int) {
+    host.faults = {};
+    after = words;
+  };
+  host.Enter(L"RM A");
+  EXPECT_EQ(after, words);
+}
+
 TEST_F(HostScene, ALostSessionTakesNothingMore) {
   host.faults.dropFrom = 2;
   host.Enter(L"RM A");
