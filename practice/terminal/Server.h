@@ -6,6 +6,7 @@
 #include "practice/library/win32/WindowsProfiles.h"
 #include "practice/terminal/ClassObjects.h"
 #include "practice/terminal/OfferedLibrary.h"
+#include "practice/terminal/StandingStubs.h"
 #include "practice/terminal/TerminalBoxes.h"
 
 namespace practice::terminal {
@@ -38,6 +39,7 @@ class Server {
   ProcessLife life_;
   Exporter exporter_;
   OfferedLibrary offered_;
+  StandingStubs stubs_;
   ClassObjects classes_;
 };
 

@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <memory>
+#include <vector>
+
 #include "tests/windows/driver/Driver.h"
 #include "tests/windows/terminal/Client.h"
 #include "tests/windows/terminal/Terminal.h"
@@ -24,6 +27,19 @@ TEST(TerminalLifetime, NothingIsLeftOfAClientThatWasKilled) {
   EXPECT_EQ(client::LiveObjects(), 2);
   holder.Kill();
   EXPECT_TRUE(driver::Holds([] { return client::LiveObjects() == 0; }, std::chrono::seconds(5)));
+}
+
+TEST(TerminalLifetime, ClientsThatComeWhileOthersLeaveAllGetTheirObjects) {
+  const auto kept = client::Make(L"ScriptGlobal");
+  std::vector<std::unique_ptr<terminal::Process>> clients;
+  for (int i = 0; i < 2; ++i) {
+    clients.push_back(
+        std::make_unique<terminal::Process>(terminal::TestProgram(), L"--come-and-go"));
+  }
+  for (const auto& one : clients) {
+    ASSERT_TRUE(driver::Holds([&one] { return !one->IsRunning(); }, std::chrono::seconds(60)));
+    EXPECT_EQ(one->Wait(), 0u);
+  }
 }
 
 TEST(TerminalLifetime, AServerThatNobodyUsesEnds) {

@@ -17,6 +17,15 @@ int HoldObjects() {
   return 0;
 }
 
+/// A client that makes objects and lets them go, over and over.
+int ComeAndGo() {
+  for (int i = 0; i < 150; ++i) {
+    client::Bag({{L"strKeyText", L"HELD"}});
+    client::Make(L"ScriptGlobal");
+  }
+  return 0;
+}
+
 int RunTests(int count, char** arguments) {
   testing::InitGoogleMock(&count, arguments);
   const terminal::Registered registered;
@@ -27,8 +36,10 @@ int RunTests(int count, char** arguments) {
 
 int main(int count, char** arguments) {
   CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
-  const bool isHolder = count > 1 && std::string_view(arguments[1]) == "--hold-objects";
-  const int result = isHolder ? HoldObjects() : RunTests(count, arguments);
+  const std::string_view role = count > 1 ? arguments[1] : "";
+  const int result = role == "--hold-objects"  ? HoldObjects()
+                     : role == "--come-and-go" ? ComeAndGo()
+                                               : RunTests(count, arguments);
   CoUninitialize();
   return result;
 }
