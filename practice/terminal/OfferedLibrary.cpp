@@ -60,6 +60,14 @@ class DeskObject : public PracticeObject {
       return Value(program.caption + L"\n" + program.text + L"\n" + program.title + L"\n" +
                    program.folder + L"\n" + std::to_wstring(program.instance));
     });
+    OnSlot(19, [&desk](const Arguments& a) {
+      const int held = desk.EntryCount() + a[0].Long();
+      const std::chrono::milliseconds time(a[1].Long());
+      desk.SlowDown([&desk, held, time] {
+        if (desk.EntryCount() == held) WaitAlive(time, [&desk] { return !desk.IsSlow(); });
+      });
+      return Value();
+    });
     OnSlot(15, [&desk](const Arguments&) {
       return Value(static_cast<std::int32_t>(desk.EntryCount()));
     });

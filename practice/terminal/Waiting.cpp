@@ -4,7 +4,7 @@
 
 namespace practice::terminal {
 
-void WaitAlive(std::chrono::milliseconds time) {
+void WaitAlive(std::chrono::milliseconds time, const std::function<bool()>& enough) {
   const ULONGLONG end = GetTickCount64() + static_cast<ULONGLONG>(time.count());
   for (;;) {
     MSG message = {};
@@ -17,7 +17,7 @@ void WaitAlive(std::chrono::milliseconds time) {
       DispatchMessageW(&message);
     }
     const ULONGLONG now = GetTickCount64();
-    if (now >= end) return;
+    if (now >= end || enough()) return;
     MsgWaitForMultipleObjects(0, nullptr, FALSE, static_cast<DWORD>(end - now), QS_ALLINPUT);
   }
 }

@@ -53,10 +53,14 @@ Program::Program(const std::wstring& path) {
 }
 
 Program::~Program() {
-  if (IsRunning()) TerminateProcess(process_.hProcess, 99);
-  WaitForSingleObject(process_.hProcess, 5000);
+  if (IsRunning()) Kill();
   CloseHandle(process_.hThread);
   CloseHandle(process_.hProcess);
+}
+
+void Program::Kill() {
+  TerminateProcess(process_.hProcess, 99);
+  WaitForSingleObject(process_.hProcess, 5000);
 }
 
 bool Program::IsRunning() const {

@@ -16,6 +16,8 @@ class Program {
   Program(const Program&) = delete;
   Program& operator=(const Program&) = delete;
 
+  /// Ends it as the task manager does.
+  void Kill();
   bool IsRunning() const;
   /// Waits for its end and gives its exit code.
   DWORD ExitCode() const;

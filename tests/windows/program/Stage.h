@@ -28,6 +28,7 @@ class Stage {
   Program& program() { return *program_; }
   terminal::PracticeTerminal& terminal() { return *terminal_; }
   void CloseTerminal() { terminal_ = nullptr; }
+  void OpenTerminal() { terminal_ = std::make_shared<terminal::PracticeTerminal>(); }
   /// Starts the program and has a written agent do its lines.
   void Work(const std::wstring& lines);
   void WorkLikeTheOrdinaryAgent();

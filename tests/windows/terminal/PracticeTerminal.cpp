@@ -106,6 +106,15 @@ void PracticeTerminal::RefuseEntry(int number, const std::wstring& reason) {
   client::Call(*client::Make(L"PracticeDesk").Get(), L"RefuseEntry", std::move(arguments));
 }
 
+void PracticeTerminal::HoldEntry(int number, std::chrono::milliseconds time) {
+  std::vector<client::Variant> arguments;
+  arguments.push_back(client::Number(number));
+  arguments.push_back(client::Number(static_cast<long>(time.count())));
+  client::Call(*client::Make(L"PracticeDesk").Get(), L"HoldEntry", std::move(arguments));
+}
+
+void PracticeTerminal::BehaveWell() { AskDesk(L"BehaveWell"); }
+
 void PracticeTerminal::DropSession(bool answerOnly) {
   TellDesk(L"DropSession", client::Flag(answerOnly));
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <memory>
 #include <string>
 #include <vector>
@@ -41,6 +42,9 @@ class PracticeTerminal {
   void SlowDown(int milliseconds);
   /// The next entry is number 1.
   void RefuseEntry(int number, const std::wstring& reason);
+  /// This entry takes so long, or until the host is told to behave well; counted from now on.
+  void HoldEntry(int number, std::chrono::milliseconds time);
+  void BehaveWell();
   void DropSession(bool answerOnly);
   /// The terminal's process ends in the middle of this entry, counted from now on.
   void DieInEntry(int number);
