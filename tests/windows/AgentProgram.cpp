@@ -3,10 +3,13 @@
 //
 //   drive BOOKING PROGRAM AGENT [FOLDER]   FOLDER takes a picture of every window, as NN-NAME.bmp
 //   drive --wait                           until a terminal that others have opened can be used
+//   drive --arrange                        waits for the program's dialog, and puts it beside the
+//                                          terminal that others have opened
 
 #include <objbase.h>
 #include <windows.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <iterator>
 
@@ -16,6 +19,7 @@
 #include "tests/windows/driver/WindowAgent.h"
 #include "tests/windows/terminal/Client.h"
 #include "tests/windows/terminal/PracticeTerminal.h"
+#include "ui/win32/resource.h"
 
 namespace {
 
@@ -39,19 +43,48 @@ class Pictures {
   explicit Pictures(std::wstring folder) : folder_(std::move(folder)) {}
 
   void Take(HWND window, const std::wstring& name) {
-    if (folder_.empty()) return;
-    wchar_t number[8] = {};
-    std::swprintf(number, std::size(number), L"%02d", ++count_);
-    driver::SavePicture(window, folder_ + L"\\" + number + L"-" + name + L".bmp");
+    if (!folder_.empty()) driver::SavePicture(window, NextPath(name));
+  }
+  void Take(HWND one, HWND other, const std::wstring& name) {
+    if (!folder_.empty()) driver::SavePicture(one, other, NextPath(name));
   }
 
  private:
+  std::wstring NextPath(const std::wstring& name) {
+    wchar_t number[8] = {};
+    std::swprintf(number, std::size(number), L"%02d", ++count_);
+    return folder_ + L"\\" + number + L"-" + name + L".bmp";
+  }
+
   std::wstring folder_;
   int count_ = 0;
 };
 
 void Print(const char* heading, const std::wstring& text) {
   std::printf("%s\n%s\n\n", heading, driver::ToUtf8(text).c_str());
+}
+
+/// The program's dialog on the screen; null when there is none now.
+HWND FindDialog() {
+  HWND found = nullptr;
+  const auto look = [](HWND window, LPARAM result) {
+    if (!IsWindowVisible(window) || GetDlgItem(window, ID_txtPWCT) == nullptr) return TRUE;
+    *reinterpret_cast<HWND*>(result) = window;
+    return FALSE;
+  };
+  EnumWindows(+look, reinterpret_cast<LPARAM>(&found));
+  return found;
+}
+
+/// Puts the window to the right of the terminal, as far as the screen reaches.
+void PlaceBeside(HWND terminal, HWND window) {
+  RECT left = {};
+  RECT own = {};
+  GetWindowRect(terminal, &left);
+  GetWindowRect(window, &own);
+  const int furthest = GetSystemMetrics(SM_CXSCREEN) - static_cast<int>(own.right - own.left);
+  SetWindowPos(window, nullptr, std::max(0, std::min(static_cast<int>(left.right), furthest)),
+               left.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 int Drive(const std::wstring& booking, const std::wstring& path, const std::wstring& agentPath,
@@ -65,6 +98,8 @@ int Drive(const std::wstring& booking, const std::wstring& path, const std::wstr
   driver::WindowAgent(program, script).Work([&](HWND window, const std::wstring& name) {
     std::printf("at %s\n", driver::ToUtf8(name).c_str());
     pictures.Take(window, name);
+    PlaceBeside(terminal.window(), window);
+    pictures.Take(terminal.window(), window, name + L"-beside");
   });
   const DWORD code = program.ExitCode();
   pictures.Take(terminal.window(), L"terminal");
@@ -87,9 +122,10 @@ int Drive(int count, wchar_t** arguments) {
   return 1;
 }
 
-int WaitForATerminal() {
+/// Does it, and says what has failed.
+int Do(void (*what)()) {
   try {
-    terminal::WaitUntilOpen();
+    what();
     return 0;
   } catch (const std::exception& error) {
     std::puts(error.what());
@@ -97,16 +133,30 @@ int WaitForATerminal() {
   }
 }
 
+void WaitForATerminal() { terminal::WaitUntilOpen(); }
+
+/// When no dialog comes there is nothing to arrange.
+void Arrange() {
+  const HWND terminal = terminal::WaitUntilOpen();
+  HWND dialog = nullptr;
+  if (driver::Holds([&] { return (dialog = FindDialog()) != nullptr; })) {
+    PlaceBeside(terminal, dialog);
+  }
+}
+
 }  // namespace
 
 int wmain(int count, wchar_t** arguments) {
-  const bool onlyWaits = count == 2 && std::wstring_view(arguments[1]) == L"--wait";
-  if (!onlyWaits && count < 4) {
-    std::puts("usage: drive BOOKING PROGRAM AGENT [FOLDER] | drive --wait");
+  const std::wstring_view option = count == 2 ? arguments[1] : L"";
+  const bool isOption = option == L"--wait" || option == L"--arrange";
+  if (!isOption && count < 4) {
+    std::puts("usage: drive BOOKING PROGRAM AGENT [FOLDER] | drive --wait | drive --arrange");
     return 2;
   }
   CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
-  const int result = onlyWaits ? WaitForATerminal() : Drive(count, arguments);
+  const int result = !isOption             ? Drive(count, arguments)
+                     : option == L"--wait" ? Do(&WaitForATerminal)
+                                           : Do(&Arrange);
   CoUninitialize();
   return result;
 }

@@ -74,11 +74,7 @@ Pixels TakeWhenPainted(const RECT& area) {
   return last;
 }
 
-}  // namespace
-
-void SavePicture(HWND window, const std::wstring& path) {
-  RECT area = {};
-  GetWindowRect(window, &area);
+void SaveArea(const RECT& area, const std::wstring& path) {
   const Pixels pixels = TakeWhenPainted(area);
   const BITMAPINFOHEADER header = HeaderOf(pixels.width, pixels.height);
   const auto bytes = static_cast<DWORD>(pixels.rows.size() * sizeof pixels.rows[0]);
@@ -92,6 +88,24 @@ void SavePicture(HWND window, const std::wstring& path) {
   std::fwrite(&header, sizeof header, 1, out);
   std::fwrite(pixels.rows.data(), 1, bytes, out);
   std::fclose(out);
+}
+
+RECT AreaOf(HWND window) {
+  RECT area = {};
+  GetWindowRect(window, &area);
+  return area;
+}
+
+}  // namespace
+
+void SavePicture(HWND window, const std::wstring& path) { SaveArea(AreaOf(window), path); }
+
+void SavePicture(HWND one, HWND other, const std::wstring& path) {
+  const RECT first = AreaOf(one);
+  const RECT second = AreaOf(other);
+  RECT both = {};
+  UnionRect(&both, &first, &second);
+  SaveArea(both, path);
 }
 
 COLORREF ColorAt(HWND window, int x, int y) {

@@ -8,7 +8,8 @@
 #include "tests/windows/program/Stage.h"
 
 // Every practice booking with its written agent, in the real windows and over COM. The host is
-// asked the same, and the PNR is afterwards the same, as when the run is rehearsed without either.
+// asked the same, and the PNR and the settings are afterwards the same, as when the run is
+// rehearsed without either.
 namespace driver {
 namespace {
 
@@ -51,6 +52,8 @@ class InTheTerminal : public testing::Test {
     EXPECT_EQ(stage.program().ExitCode(), static_cast<DWORD>(rehearsed.exitCode));
     EXPECT_EQ(stage.terminal().Entries(), rehearsed.EntryTexts());
     EXPECT_EQ(ToUtf8(stage.PnrAfter()), ToUtf8(Stage::WithLineFeeds(rehearsed.pnrAfter)));
+    if (!scene.hasIni) return;
+    EXPECT_EQ(ToUtf8(stage.Ini()), ToUtf8(Stage::WithLineFeeds(rehearsed.iniAfter)));
   }
 
   static Stage::TerminalPtr terminal_;
