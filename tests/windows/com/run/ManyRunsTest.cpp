@@ -15,7 +15,7 @@
 namespace com_run {
 namespace {
 
-constexpr int kFewRuns = 40;
+constexpr int kFewRuns = 15;
 /// Until then the heaps find their size. The terminal's transcript grows up to a length of its own,
 /// which a hundred runs fill; as much as that is no growth.
 constexpr double kWarmUp = 0.4;
