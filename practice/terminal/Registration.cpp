@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "hostlib/com/Owners.h"
 #include "practice/terminal/ComObject.h"
 
 // The headers of the compiler lack these two.
@@ -47,6 +48,10 @@ bool IsOurs(HKEY root, const LibraryClass& kind) {
   return Read(root, kClasses + ProgId(kind) + L"\\CLSID") == IdText(kind.id);
 }
 
+bool IsThere(const std::wstring& path) {
+  return GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES;
+}
+
 }  // namespace
 
 bool Registration::WriteClasses(HKEY root) const {
@@ -88,13 +93,31 @@ bool Registration::Register() const {
   return SUCCEEDED(RegisterTypeLib(&types_.library(), path.data(), nullptr)) && IsFound();
 }
 
+bool Registration::IsAnothers(const std::wstring& program) const {
+  return !program.empty() && lstrcmpiW(program.c_str(), program_.c_str()) != 0 && IsThere(program);
+}
+
+bool Registration::IsTypeLibraryAnothers() const {
+  hostlib::com::Bstr path;
+  const bool isRegistered =
+      SUCCEEDED(QueryPathOfRegTypeLib(types_.Id(), 1, 0, LOCALE_NEUTRAL, path.Out()));
+  // The length that the system gives may be that of the room.
+  return isRegistered && path.get() != nullptr && IsAnothers(path.get());
+}
+
 void Registration::Unregister() const {
+  const bool keepsTypeLibrary = IsTypeLibraryAnothers();
   for (const HKEY root : {HKEY_CURRENT_USER, HKEY_LOCAL_MACHINE}) {
     for (const LibraryClass& kind : LibraryClasses()) {
+      const std::wstring server = kClasses + (L"CLSID\\" + IdText(kind.id)) + L"\\LocalServer32";
+      std::wstring program = Read(root, server);
+      std::erase(program, L'"');
+      if (IsAnothers(program)) continue;
       if (IsOurs(root, kind)) RegDeleteTreeW(root, (kClasses + ProgId(kind)).c_str());
       RegDeleteTreeW(root, (kClasses + (L"CLSID\\" + IdText(kind.id))).c_str());
     }
   }
+  if (keepsTypeLibrary) return;
   UnRegisterTypeLibForUser(types_.Id(), 1, 0, LOCALE_NEUTRAL, kSystem);
   UnRegisterTypeLib(types_.Id(), 1, 0, LOCALE_NEUTRAL, kSystem);
 }

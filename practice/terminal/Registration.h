@@ -12,13 +12,16 @@ class Registration {
 
   /// False when scripts would not come to this program afterwards.
   bool Register() const;
-  /// Leaves the names that another library has taken.
+  /// Leaves the names that another library has taken, and what another copy of this program has
+  /// registered, as long as that is there.
   void Unregister() const;
 
  private:
   bool WriteClasses(HKEY root) const;
   bool IsFound() const;
   std::wstring CommandLine() const;
+  bool IsAnothers(const std::wstring& program) const;
+  bool IsTypeLibraryAnothers() const;
 
   const TypeLibrary& types_;
   std::wstring program_;

@@ -1,0 +1,93 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "tests/windows/terminal/PracticeTerminal.h"
+// clang-format off
+#include <oleauto.h>
+// clang-format on
+
+namespace {
+
+namespace fs = std::filesystem;
+
+CLSID ClassOf(const wchar_t* progId) {
+  CLSID id = {};
+  if (FAILED(CLSIDFromProgID(progId, &id))) return CLSID_NULL;
+  return id;
+}
+
+/// The program that is registered for a class of the library; "" when none is.
+std::wstring RegisteredProgram() {
+  const CLSID id = ClassOf(L"Vantel.ParameterBag");
+  if (id == CLSID_NULL) return {};
+  wchar_t text[40] = L"";
+  StringFromGUID2(id, text, static_cast<int>(std::size(text)));
+  const std::wstring key = L"CLSID\\" + std::wstring(text) + L"\\LocalServer32";
+  wchar_t command[1024] = L"";
+  DWORD size = sizeof command;
+  RegGetValueW(HKEY_CLASSES_ROOT, key.c_str(), nullptr, RRF_RT_REG_SZ, nullptr, command, &size);
+  std::wstring program = command;
+  std::erase(program, L'"');
+  return program;
+}
+
+/// Where the type library is registered to lie; "" when it is not.
+std::wstring RegisteredTypes() {
+  const CLSID id = ClassOf(L"Vantel.ParameterBag");
+  wchar_t text[40] = L"";
+  StringFromGUID2(id, text, static_cast<int>(std::size(text)));
+  const std::wstring key = L"CLSID\\" + std::wstring(text) + L"\\TypeLib";
+  wchar_t library[40] = L"";
+  DWORD size = sizeof library;
+  RegGetValueW(HKEY_CLASSES_ROOT, key.c_str(), nullptr, RRF_RT_REG_SZ, nullptr, library, &size);
+  GUID libraryId = {};
+  BSTR path = nullptr;
+  CLSIDFromString(library, &libraryId);
+  if (FAILED(QueryPathOfRegTypeLib(libraryId, 1, 0, LOCALE_NEUTRAL, &path))) return {};
+  // The system may give the room of the text along.
+  const std::wstring result = path;
+  SysFreeString(path);
+  return result;
+}
+
+/// A second copy of the terminal, in a folder of its own.
+class SecondCopy : public testing::Test {
+ protected:
+  SecondCopy() {
+    fs::create_directories(folder_);
+    fs::copy_file(terminal::Program(), Path(), fs::copy_options::overwrite_existing);
+  }
+  ~SecondCopy() override {
+    std::error_code ignored;
+    fs::remove_all(folder_, ignored);
+    // As the other tests want it.
+    terminal::Process(terminal::Program(), L"/regserver").Wait();
+  }
+  fs::path Path() const { return folder_ / terminal::kPracticeTerminal; }
+
+ private:
+  fs::path folder_ = fs::temp_directory_path() / L"PtaSecondCopy";
+};
+
+TEST_F(SecondCopy, ThatIsRegisteredStaysSoWhenTheFirstIsUnregistered) {
+  terminal::Process(terminal::Program(), L"/regserver").Wait();
+  {
+    const terminal::Registered second(Path().wstring());
+    terminal::Process(terminal::Program(), L"/unregserver").Wait();
+    EXPECT_EQ(RegisteredProgram(), Path().wstring());
+    EXPECT_EQ(RegisteredTypes(), Path().wstring());
+  }
+  EXPECT_EQ(RegisteredProgram(), L"");
+}
+
+TEST_F(SecondCopy, ThatWasRemovedWithoutAWordIsUnregisteredByAnother) {
+  {
+    const terminal::Registered first;
+    terminal::Process(Path().wstring(), L"/regserver").Wait();
+    fs::remove(Path());
+  }
+  EXPECT_EQ(RegisteredProgram(), L"");
+}
+
+}  // namespace
