@@ -52,6 +52,7 @@ TEST_F(LinkFailure, WithoutALibraryTheAgentIsAskedToStartATerminal) {
   stage_.emplace(nullptr).Start();
   SeeBox(kNotConnected);
   EXPECT_EQ(stage_->ExitCode(), 0u);
+  NothingRuns(terminal::kPracticeTerminal);
 }
 
 TEST_F(LinkFailure, WithoutATerminalToo) {
@@ -87,6 +88,16 @@ TEST_F(LinkFailure, ATerminalThatIsClosedWhileTheDialogIsOpenDoesNotHoldCancelUp
   stage_->CloseTerminal();
   Click(Item(dialog, ID_cmdCancel));
   EXPECT_EQ(stage_->ExitCode(), 0u);
+  NothingRuns(terminal::kPracticeTerminal);
+}
+
+TEST_F(LinkFailure, ATerminalThatIsClosedAfterTheRunLeavesNothing) {
+  stage_.emplace().Work(L"form frmPTA\nclick cmdCancel\n");
+  EXPECT_EQ(stage_->ExitCode(), 0u);
+  EXPECT_EQ(terminal::Running(), 1);
+  stage_->CloseTerminal();
+  NothingRuns(terminal::kPracticeTerminal);
+  NothingRuns(L"PTA_QX.exe");
 }
 
 TEST_F(LinkFailure, ATerminalThatIsClosedInTheMiddleOfAnEntryFailsThatStep) {

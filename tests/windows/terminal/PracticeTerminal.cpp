@@ -3,6 +3,7 @@
 #include "practice/terminal/TerminalWindow.h"
 #include "tests/windows/driver/Driver.h"
 #include "tests/windows/terminal/Client.h"
+#include "tests/windows/terminal/NotClosed.h"
 
 namespace terminal {
 namespace {
@@ -51,8 +52,9 @@ PracticeTerminal::PracticeTerminal(const std::wstring& booking)
 PracticeTerminal::~PracticeTerminal() {
   try {
     Close();
-  } catch (const std::exception&) {
+  } catch (const std::exception& failure) {
     // The process is ended with its owner.
+    TellNotClosed(failure.what());
   }
 }
 
