@@ -39,6 +39,4 @@ int ReadyAgent::ShowBox(std::wstring_view text, int, std::wstring_view) {
   return common::kOk;
 }
 
-void ReadyAgent::FocusAsked(ui::Control& control) { control.form().FocusMovedTo(&control); }
-
 }  // namespace bench

@@ -58,8 +58,6 @@ int ScriptedAgent::ShowBox(std::wstring_view text, int style, std::wstring_view 
   return cancels ? common::kCancel : common::kOk;
 }
 
-void ScriptedAgent::FocusAsked(ui::Control& control) { control.form().FocusMovedTo(&control); }
-
 void ScriptedAgent::FormClosed(ui::Form& form) {
   seen_.push_back(L"closed " + form.name());
   std::erase(visible_, &form);

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "practice/rehearsal/AgentScript.h"
-#include "ui/controls/Desktop.h"
+#include "ui/controls/WindowlessDesktop.h"
 
 namespace practice {
 
@@ -16,7 +16,7 @@ struct Disagreement {
 
 /// A desktop on which a written agent sits: it reads the forms, presses their keys and answers the
 /// boxes, line by line, and throws Disagreement as soon as the run does anything else.
-class ScriptedAgent : public ui::Desktop, public ui::FormView {
+class ScriptedAgent : public ui::WindowlessDesktop {
  public:
   explicit ScriptedAgent(std::vector<AgentLine> script);
 
@@ -27,15 +27,9 @@ class ScriptedAgent : public ui::Desktop, public ui::FormView {
 
   void Show(ui::Form& form) override;
   void ShowModal(ui::Form& form) override;
-  void Refresh(ui::Form&) override {}
   void Beep() override;
-  void Pause(std::chrono::milliseconds) override {}
   void Run() override;
   int ShowBox(std::wstring_view text, int style, std::wstring_view title) override;
-
-  void ControlSet(ui::Control&, ui::Property) override {}
-  void FormSet(ui::Form&) override {}
-  void FocusAsked(ui::Control& control) override;
   void FormClosed(ui::Form& form) override;
 
  private:

@@ -94,11 +94,8 @@ TEST(UpdateRun, LH0InLowerCaseDoesNotCount) {
 
 /// A desktop that fails when the run hides the dialog at its end.
 template <typename Failure>
-struct ViewFailingAtTheEnd : ui::FormView {
+struct ViewFailingAtTheEnd : ui::WindowlessView {
   explicit ViewFailingAtTheEnd(Failure failsWith) : failure(std::move(failsWith)) {}
-  void ControlSet(ui::Control&, ui::Property) override {}
-  void FormSet(ui::Form&) override {}
-  void FocusAsked(ui::Control&) override {}
   void FormClosed(ui::Form&) override { throw failure; }
 
   Failure failure;

@@ -48,8 +48,6 @@ int PatientAgent::ShowBox(std::wstring_view text, int style, std::wstring_view t
   return cancels ? common::kCancel : common::kOk;
 }
 
-void PatientAgent::FocusAsked(ui::Control& control) { control.form().FocusMovedTo(&control); }
-
 void PatientAgent::FormClosed(ui::Form& form) {
   timeline_.push_back(
       {.kind = Event::Kind::kClosed, .text = form.name(), .afterFault = AfterFault()});

@@ -8,7 +8,7 @@
 #include "practice/rehearsal/AgentScript.h"
 #include "tests/faults/FaultInjector.h"
 #include "tests/faults/Timeline.h"
-#include "ui/controls/Desktop.h"
+#include "ui/controls/WindowlessDesktop.h"
 
 namespace faults {
 
@@ -29,7 +29,7 @@ struct AgentStuck {
 
 /// An agent who keeps to a written one as far as that is possible, answers every box, and cancels
 /// a form in which nothing more can be done. Whatever happens goes into the timeline.
-class PatientAgent : public ui::Desktop, public ui::FormView {
+class PatientAgent : public ui::WindowlessDesktop {
  public:
   PatientAgent(std::wstring_view script, Cancelling cancelling, Timeline& timeline);
 
@@ -39,15 +39,8 @@ class PatientAgent : public ui::Desktop, public ui::FormView {
 
   void Show(ui::Form& form) override;
   void ShowModal(ui::Form& form) override;
-  void Refresh(ui::Form&) override {}
-  void Beep() override {}
-  void Pause(std::chrono::milliseconds) override {}
   void Run() override;
   int ShowBox(std::wstring_view text, int style, std::wstring_view title) override;
-
-  void ControlSet(ui::Control&, ui::Property) override {}
-  void FormSet(ui::Form&) override {}
-  void FocusAsked(ui::Control& control) override;
   void FormClosed(ui::Form& form) override;
 
  private:

@@ -16,7 +16,7 @@ inline std::wstring WaitedFor(int minutes) {
 }
 
 /// A PNR whose MCO segments the test changes as it goes, read through the real readers.
-struct WaitBench : support::RoomBench, ui::FormView {
+struct WaitBench : support::RoomBench, ui::WindowlessView {
   struct Segment {
     std::wstring number;
     std::wstring fa;
@@ -53,9 +53,6 @@ struct WaitBench : support::RoomBench, ui::FormView {
     if (&control == &form.staStatusText) statusTexts.push_back(control.Text());
     if (property == ui::Property::kInterval) intervals.push_back(form.tmrWait.Interval());
   }
-  void FormSet(ui::Form&) override {}
-  void FocusAsked(ui::Control&) override {}
-  void FormClosed(ui::Form&) override {}
 
   frmWaitForMCO::Reach Reach() {
     return {library, global, errors, stop, desktop, runEnd, pnrReading, checks};

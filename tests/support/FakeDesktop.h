@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "common/ConstDefintions.h"
-#include "ui/controls/Desktop.h"
+#include "ui/controls/WindowlessDesktop.h"
 
 namespace support {
 
@@ -13,7 +13,7 @@ namespace support {
 /// when it said nothing). Focus moves at once. `log` lines:
 ///   show frmWorking | modal frmSelectMCO | close frmPTA | refresh frmWorking | beep | pause 100
 ///   box 33 "  PTA Script " "text" -> 1
-class FakeDesktop : public ui::Desktop, public ui::FormView {
+class FakeDesktop : public ui::WindowlessDesktop {
  public:
   std::vector<std::wstring> log;
   std::deque<int> answers;
@@ -48,10 +48,6 @@ class FakeDesktop : public ui::Desktop, public ui::FormView {
                   std::wstring(text) + L"\" -> " + std::to_wstring(answer));
     return answer;
   }
-
-  void ControlSet(ui::Control&, ui::Property) override {}
-  void FormSet(ui::Form&) override {}
-  void FocusAsked(ui::Control& control) override { control.form().FocusMovedTo(&control); }
   void FormClosed(ui::Form& form) override { log.push_back(L"close " + form.name()); }
 };
 

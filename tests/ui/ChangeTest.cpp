@@ -122,7 +122,7 @@ TEST(Change, SettingTheQueueFromTheOfficeEvaluatesOKEvenWhenItHeldTheDefaultAlre
 }
 
 /// Writes down what the dialog does to OK and to the queue field, in order.
-struct OrderView : FormView {
+struct OrderView : WindowlessView {
   std::vector<std::wstring> sets;
   void ControlSet(Control& control, Property property) override {
     const bool isText = property == Property::kText;
@@ -132,9 +132,6 @@ struct OrderView : FormView {
                             : (control.Enabled() ? L"queue on" : L"queue off"));
     }
   }
-  void FormSet(Form&) override {}
-  void FocusAsked(Control&) override {}
-  void FormClosed(Form&) override {}
 };
 
 TEST(Change, AnOfficeIDOfNineCharactersEvaluatesOKBeforeTheQueueIsTouched) {

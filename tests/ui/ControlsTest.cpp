@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "ui/controls/Desktop.h"
+#include "ui/controls/WindowlessDesktop.h"
 
 namespace ui {
 namespace {
@@ -8,15 +8,13 @@ namespace {
 using Events = std::vector<std::wstring>;
 
 /// Writes down what the program sets.
-struct PushedSets : FormView {
+struct PushedSets : WindowlessView {
   std::vector<std::pair<std::wstring, Property>> sets;
   int formSets = 0;
   void ControlSet(Control& control, Property property) override {
     sets.emplace_back(control.name(), property);
   }
   void FormSet(Form&) override { ++formSets; }
-  void FocusAsked(Control& control) override { control.form().FocusMovedTo(&control); }
-  void FormClosed(Form&) override {}
 };
 
 struct OneOfEach : Form {

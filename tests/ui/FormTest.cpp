@@ -191,12 +191,8 @@ TEST(Form, UnloadingWhileTheFocusIsLostGivesItToNobody) {
 }
 
 /// Counts the forms that were destroyed under it.
-struct LastingView : FormView {
+struct LastingView : WindowlessView {
   int gone = 0;
-  void ControlSet(Control&, Property) override {}
-  void FormSet(Form&) override {}
-  void FocusAsked(Control&) override {}
-  void FormClosed(Form&) override {}
   void FormGone(Form&) override { ++gone; }
 };
 

@@ -196,11 +196,8 @@ TEST(UpdatePNR, EachTSTsOwnFormOfPaymentIsKept) {
 }
 
 TEST(UpdatePNR, AFailureOutsideTheFamilyIsReportedInTheWordsOfTheWhole) {
-  struct BrokenView : ui::FormView {
-    void ControlSet(ui::Control&, ui::Property) override {}
+  struct BrokenView : ui::WindowlessView {
     void FormSet(ui::Form&) override { throw common::RunTimeError(L"no window"); }
-    void FocusAsked(ui::Control&) override {}
-    void FormClosed(ui::Form&) override {}
   } view;
   ChangesBench bench;
   bench.dialog.Load();
