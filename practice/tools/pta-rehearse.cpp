@@ -6,6 +6,7 @@
 #include <iterator>
 #include <optional>
 
+#include "common/LineFeeds.h"
 #include "common/Text.h"
 #include "practice/rehearsal/AgentScript.h"
 #include "practice/rehearsal/Rehearsal.h"
@@ -112,7 +113,7 @@ practice::RehearsalScene SceneOf(const Options& options) {
 
 // Host texts break lines by "\r\n" and boxes by "\r"; on the console both are line ends.
 std::string Console(const std::wstring& text) {
-  return common::ToUtf8(common::Replace(common::Replace(text, L"\r\n", L"\n"), L"\r", L"\n"));
+  return common::ToUtf8(common::WithLineFeeds(text));
 }
 
 void Print(std::string_view heading, const std::vector<std::wstring>& lines) {

@@ -3,6 +3,7 @@
 #include <map>
 
 #include "common/ConstDefintions.h"
+#include "common/LineFeeds.h"
 #include "tests/windows/driver/Clipboard.h"
 #include "tests/windows/driver/Driver.h"
 #include "tests/windows/driver/Picture.h"
@@ -26,15 +27,6 @@ constexpr auto kLook = std::chrono::seconds(5);
 /// How long the program may be busy with the host before its next form comes.
 constexpr auto kOnTheWay = std::chrono::seconds(60);
 constexpr auto kTimerInterval = std::chrono::seconds(5);
-
-std::wstring WithLineBreaks(const std::wstring& text) {
-  std::wstring lines;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    if (text[i] == L'\n' && i > 0 && text[i - 1] == L'\r') continue;
-    lines += text[i] == L'\r' ? L'\n' : text[i];
-  }
-  return lines;
-}
 
 /// As far as it can be seen from another process: the icon, whichever it is, and the buttons.
 void CheckStyle(HWND box, int style) {
@@ -159,7 +151,7 @@ void WindowAgent::LookAtProgress() {
 void WindowAgent::AnswerBox(const practice::AgentLine& line) {
   const HWND box = program_.WaitForBox();
   look_(box, L"box");
-  if (!Holds([&] { return BoxText(box) == WithLineBreaks(line.Word(1)); }, kLook)) {
+  if (!Holds([&] { return BoxText(box) == common::WithLineFeeds(line.Word(1)); }, kLook)) {
     throw DriverError(L"The box says \"" + BoxText(box) + L"\"");
   }
   // A box without a title bears the program's name.
