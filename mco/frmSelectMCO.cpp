@@ -4,7 +4,6 @@
 
 #include "common/ConstDefintions.h"
 #include "common/Numbers.h"
-#include "ui/controls/SelectionRow.h"
 
 namespace mco {
 

@@ -5,6 +5,7 @@
 
 #include "mco/TSMInfo.h"
 #include "ui/controls/Form.h"
+#include "ui/controls/SelectionRow.h"
 
 namespace mco {
 
@@ -14,8 +15,9 @@ class frmSelectMCO : public ui::Form {
   frmSelectMCO();
 
   ui::Label lblSelectMCO{*this, L"lblSelectMCO", L"Select a MCO"};
-  ui::Label lblSelectMCOHeading{*this, L"lblSelectMCOHeading",
-                                L"TSM   P     FOP                        SEGMENTS     "};
+  ui::ListHeading lblSelectMCOHeading{*this, L"lblSelectMCOHeading",
+                                      L"TSM   P     FOP                        SEGMENTS     ",
+                                      ui::RowColumns()};
   ui::ListBox lstMCO{*this, L"lstMCO", ui::ListBox::Selection::kSingle};
   ui::Button btnOK{*this, L"btnOK", L"OK"};
   ui::Button btnCancel{*this, L"btnCancel", L"Cancel"};

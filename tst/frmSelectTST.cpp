@@ -19,7 +19,7 @@ std::wstring Heading() {
 
 frmSelectTST::frmSelectTST(common::MessageBoxes& boxes, common::RunEnd& runEnd)
     : Form(L"frmSelectTST"),
-      lblSelectHeading(*this, L"lblSelectHeading", Heading()),
+      lblSelectHeading(*this, L"lblSelectHeading", Heading(), ui::RowColumns()),
       boxes_(boxes),
       runEnd_(runEnd) {
   SetCaption(std::wstring(common::kTitle) + L"- TST Record list");

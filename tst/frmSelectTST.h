@@ -16,7 +16,7 @@ class frmSelectTST : public ui::Form {
   frmSelectTST(common::MessageBoxes& boxes, common::RunEnd& runEnd);
 
   ui::Label lblSelectTST{*this, L"lblSelectTST", L"Select one or many TST(s) "};
-  ui::Label lblSelectHeading;
+  ui::ListHeading lblSelectHeading;
   ui::ListBox lstTST{*this, L"lstTST", ui::ListBox::Selection::kMultiple};
   ui::Button cmdOK{*this, L"cmdOK", L"OK"};
   ui::Button cmdCancel{*this, L"cmdCancel", L"Cancel"};

@@ -17,6 +17,13 @@ TEST(SelectionRow, TheColumnsBeginAt1And10And19And45) {
   EXPECT_EQ(text.find(L"2-3"), 44U);
 }
 
+TEST(SelectionRow, SaysWhereItsColumnsBegin) {
+  const std::wstring text = RowText({L"N", L"P", L"F", L"S"});
+  std::wstring found;
+  for (const int column : RowColumns()) found += text.at(static_cast<std::size_t>(column));
+  EXPECT_EQ(found, L"NPFS");
+}
+
 TEST(SelectionRow, AFieldAsWideAsItsColumnHasNoBlankBehindIt) {
   const std::wstring nine(9, L'N');
   const std::wstring persons(9, L'P');

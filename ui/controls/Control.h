@@ -22,6 +22,7 @@ enum class Property {
 
 enum class ControlKind {
   kLabel,
+  kListHeading,
   kFrame,
   kTextBox,
   kCheckBox,

@@ -9,6 +9,12 @@ Label::Label(Form& form, std::wstring_view name, std::wstring_view caption)
   StoreText(caption);
 }
 
+ListHeading::ListHeading(Form& form, std::wstring_view name, std::wstring_view caption,
+                         std::vector<int> columns)
+    : Control(form, ControlKind::kListHeading, name), columns_(std::move(columns)) {
+  StoreText(caption);
+}
+
 Frame::Frame(Form& form, std::wstring_view name, std::wstring_view caption)
     : Control(form, ControlKind::kFrame, name) {
   StoreText(caption);

@@ -12,6 +12,20 @@ class Label : public Control {
   Label(Form& form, std::wstring_view name, std::wstring_view caption = {});
 };
 
+/// The heading of the list that follows it: every word of its caption stands over a column of the
+/// list, whatever blanks lie between the words.
+class ListHeading : public Control {
+ public:
+  /// `columns` says where the list's columns begin, in characters.
+  ListHeading(Form& form, std::wstring_view name, std::wstring_view caption,
+              std::vector<int> columns);
+
+  const std::vector<int>& Columns() const { return columns_; }
+
+ private:
+  std::vector<int> columns_;
+};
+
 class Frame : public Control {
  public:
   Frame(Form& form, std::wstring_view name, std::wstring_view caption);

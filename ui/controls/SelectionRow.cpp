@@ -39,4 +39,9 @@ SelectionRow ReadRow(std::wstring_view text, int segmentWidth) {
 
 SelectionRow ReadRow(std::wstring_view text) { return ReadRow(text, common::Length(text)); }
 
+std::vector<int> RowColumns() {
+  constexpr int kFOPStart = kNumberWidth + kPersonsWidth;
+  return {0, kNumberWidth, kFOPStart, kFOPStart + kFOPWidth};
+}
+
 }  // namespace ui

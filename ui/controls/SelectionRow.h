@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace ui {
 
@@ -23,5 +24,8 @@ std::wstring RowText(const SelectionRow& row);
 SelectionRow ReadRow(std::wstring_view text, int segmentWidth);
 /// The same with the segments to their end.
 SelectionRow ReadRow(std::wstring_view text);
+
+/// Where the columns of a row begin, counted from 0.
+std::vector<int> RowColumns();
 
 }  // namespace ui

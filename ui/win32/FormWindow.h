@@ -1,8 +1,10 @@
 #pragma once
 
-#include <vector>
+#include <map>
+#include <optional>
 
 #include "ui/win32/NativeControl.h"
+#include "ui/win32/SwitchedOff.h"
 
 namespace ui {
 
@@ -28,10 +30,7 @@ class FormWindow : public FormView {
   /// Makes the form visible and gives it the focus.
   void Appear();
   /// Switches these windows off for as long as the form is shown.
-  void SwitchOff(const std::vector<HWND>& others);
-  /// Clicks the button that Enter means here: the focused one, else the template's default button,
-  /// if it has one.
-  void Enter(HWND focus);
+  void SwitchOff(const std::vector<HWND>& others) { switchedOff_.emplace(others); }
 
   void ControlSet(Control& control, Property property) override;
   void FormSet(Form& form) override;
@@ -43,21 +42,19 @@ class FormWindow : public FormView {
   static INT_PTR CALLBACK Procedure(HWND window, UINT message, WPARAM wParam,
                                     LPARAM lParam) noexcept;
   INT_PTR Handle(UINT message, WPARAM wParam, LPARAM lParam);
-  INT_PTR HandleCommand(WPARAM wParam, LPARAM lParam);
   void Bind(Control& control);
-  void PutUpFrame();
   void UseProgramIcon(HINSTANCE instance);
   void Close();
   void AskToClose();
   bool SetPointer(LPARAM lParam);
-  NativeControl* Find(const Control& control) const;
-  NativeControl* Find(HWND window) const;
+  /// Null when there is none.
+  NativeControl* Find(const Control* control) const;
 
   Form* form_;  ///< null once closed
   Shell& shell_;
   WindowHandle window_;
-  std::vector<std::unique_ptr<NativeControl>> controls_;
-  std::vector<HWND> switchedOff_;
+  std::map<const Control*, std::unique_ptr<NativeControl>> controls_;
+  std::optional<SwitchedOff> switchedOff_;
 };
 
 }  // namespace ui

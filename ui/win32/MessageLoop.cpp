@@ -1,21 +1,16 @@
 #include "ui/win32/MessageLoop.h"
 
+#include "ui/win32/Input.h"
+
 namespace ui {
 
 namespace {
 
-bool IsInput(const MSG& message) {
-  const UINT number = message.message;
-  return number == WM_KEYDOWN || number == WM_CHAR || number == WM_SYSKEYDOWN ||
-         number == WM_SYSCHAR || number == WM_LBUTTONDOWN || number == WM_LBUTTONDBLCLK ||
-         number == WM_RBUTTONDOWN || number == WM_RBUTTONUP || number == WM_MOUSEWHEEL;
+/// Enter is held: it has closed one box, and may not press a button of the window below, too.
+bool IsHeldEnter(const MSG& message) {
+  return message.message == WM_KEYDOWN && message.wParam == VK_RETURN &&
+         (HIWORD(message.lParam) & KF_REPEAT) != 0;
 }
-
-bool IsEnter(const MSG& message) {
-  return message.message == WM_KEYDOWN && message.wParam == VK_RETURN;
-}
-
-bool IsRepeated(const MSG& message) { return (HIWORD(message.lParam) & KF_REPEAT) != 0; }
 
 }  // namespace
 
@@ -60,10 +55,9 @@ void MessageLoop::Paint() {
 
 void MessageLoop::Handle(MSG& message) {
   FormWindow* const form = FormOf(message.hwnd);
-  if (form != nullptr && IsInput(message) && !shell_.gate.IsOpen()) return;
-  if (form != nullptr && IsEnter(message)) {
-    if (!IsRepeated(message)) form->Enter(message.hwnd);
-  } else if (form == nullptr || !IsDialogMessageW(form->handle(), &message)) {
+  const bool isTaken = !IsHeldEnter(message) && (shell_.gate.IsOpen() || !IsInput(message.message));
+  if (form != nullptr && !isTaken) return;
+  if (form == nullptr || !IsDialogMessageW(form->handle(), &message)) {
     TranslateMessage(&message);
     DispatchMessageW(&message);
   }

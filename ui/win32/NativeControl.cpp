@@ -1,18 +1,19 @@
 #include "ui/win32/NativeControl.h"
 
 #include "ui/win32/CommonControls.h"
+#include "ui/win32/Input.h"
 
 namespace ui {
 
 namespace {
 
 constexpr UINT_PTR kSubclass = 1;
+constexpr wchar_t kSelf[] = L"ui::NativeControl";
 
-bool StartsInput(UINT message) {
-  return message == WM_KEYDOWN || message == WM_CHAR || message == WM_SYSKEYDOWN ||
-         message == WM_PASTE || message == WM_CUT || message == WM_CLEAR || message == WM_UNDO ||
-         message == WM_LBUTTONDOWN || message == WM_LBUTTONDBLCLK || message == WM_RBUTTONDOWN ||
-         message == WM_RBUTTONUP || message == WM_CONTEXTMENU || message == WM_MOUSEWHEEL;
+/// What tells that the user has changed or clicked a control of this kind.
+WORD ChangeOf(ControlKind kind) {
+  if (kind == ControlKind::kTextBox) return EN_CHANGE;
+  return kind == ControlKind::kListBox ? LBN_SELCHANGE : BN_CLICKED;
 }
 
 }  // namespace
@@ -21,32 +22,54 @@ NativeControl::NativeControl(Control& control, HWND window, Shell& shell)
     : control_(control), window_(window), shell_(shell) {
   if (window_ == nullptr) return;
   SetWindowSubclass(window_, &Procedure, kSubclass, reinterpret_cast<DWORD_PTR>(this));
+  SetPropW(window_, kSelf, this);
 }
 
 NativeControl::~NativeControl() { Forget(); }
 
+NativeControl* NativeControl::Of(HWND window) {
+  return static_cast<NativeControl*>(GetPropW(window, kSelf));
+}
+
 void NativeControl::Forget() {
-  if (window_ != nullptr) RemoveWindowSubclass(window_, &Procedure, kSubclass);
+  if (window_ == nullptr) return;
+  RemovePropW(window_, kSelf);
+  RemoveWindowSubclass(window_, &Procedure, kSubclass);
   window_ = nullptr;
 }
 
 void NativeControl::Push(Property property) {
-  if (property == Property::kText) PushCaption();
-  if (property == Property::kEnabled) EnableNative();
-}
-
-void NativeControl::PushCaption() {
+  if (property == Property::kEnabled) Enable(control_.Enabled());
+  if (property != Property::kText) return;
   pushing_ = true;
   SetWindowTextW(window_, control_.Text().c_str());
   pushing_ = false;
 }
 
-void NativeControl::EnableNative() {
+void NativeControl::PushAll() {
+  // Items before their selection, everything else in any order.
+  for (const Property property :
+       {Property::kText, Property::kEnabled, Property::kLocked, Property::kValue,
+        Property::kBackColor, Property::kItems, Property::kSelection, Property::kInterval}) {
+    Push(property);
+  }
+}
+
+void NativeControl::Enable(bool enabled) {
   // Windows leaves the focus on a window that is switched off, where no key can move it on.
-  const bool leave = !control_.Enabled() && GetFocus() == window_;
+  const bool leave = !enabled && GetFocus() == window_;
   if (leave) SendMessageW(GetParent(window_), WM_NEXTDLGCTL, 0, FALSE);
-  EnableWindow(window_, control_.Enabled());
+  EnableWindow(window_, enabled);
   if (leave) shell_.guard.Rethrow();
+}
+
+void NativeControl::Notified(WORD notification) {
+  if (pushing_ || notification != ChangeOf(control_.kind())) return;
+  if (shell_.gate.IsOpen()) {
+    TakeChange();
+  } else {
+    PushAll();  // as it was
+  }
 }
 
 LRESULT NativeControl::Default(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -70,7 +93,7 @@ LRESULT CALLBACK NativeControl::Procedure(HWND window, UINT message, WPARAM wPar
     native.Forget();
     return DefSubclassProc(window, message, wParam, lParam);
   }
-  if (StartsInput(message) && !native.TakesInput()) return 0;
+  if (IsInput(message) && !native.shell_.gate.IsOpen()) return 0;
   return native.shell_.guard.Run(0, [&] { return native.Handle(message, wParam, lParam); });
 }
 

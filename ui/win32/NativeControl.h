@@ -19,22 +19,23 @@ struct Shell {
 /// it pushes itself raises nothing.
 class NativeControl {
  public:
-  /// `window` is null for a control without a window of its own.
-  static std::unique_ptr<NativeControl> Make(Control& control, HWND dialog, HWND window,
-                                             Shell& shell);
+  /// `window` is the control's; the dialog's for a control without a window of its own.
+  static std::unique_ptr<NativeControl> Make(Control& control, HWND window, Shell& shell);
+  /// The one whose window it is; null when there is none.
+  static NativeControl* Of(HWND window);
 
   NativeControl(Control& control, HWND window, Shell& shell);
   virtual ~NativeControl();
   NativeControl(const NativeControl&) = delete;
   NativeControl& operator=(const NativeControl&) = delete;
 
-  Control& control() const { return control_; }
   HWND window() const { return window_; }
 
-  /// The program has set a property; at first all of them, one after the other.
+  /// The program has set a property.
   virtual void Push(Property property);
+  void PushAll();
   /// The native control notifies its dialog.
-  virtual void Notified(WORD /*notification*/) {}
+  void Notified(WORD notification);
   /// The brush to paint it with, or null for the usual one.
   virtual HBRUSH Brush(HDC) { return nullptr; }
   virtual void Draw(const DRAWITEMSTRUCT&) {}
@@ -42,25 +43,33 @@ class NativeControl {
   void Forget();
 
  protected:
+  Control& control() const { return control_; }
+  /// The user has changed or clicked it.
+  virtual void TakeChange() {}
   /// Sees every message of the native window.
   virtual LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT Default(UINT message, WPARAM wParam, LPARAM lParam);
 
-  void PushCaption();
-  bool TakesInput() const { return shell_.gate.IsOpen(); }
-  Shell& shell() const { return shell_; }
-
-  /// The native control notifies of changes of our own making too.
-  bool pushing_ = false;
-
  private:
   static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
                                     UINT_PTR id, DWORD_PTR self) noexcept;
-  void EnableNative();
+  void Enable(bool enabled);
 
   Control& control_;
   HWND window_;
   Shell& shell_;
+  /// The native control notifies of changes of our own making too.
+  bool pushing_ = false;
+};
+
+/// With its control as what it is.
+template <typename Kind>
+class NativeOf : public NativeControl {
+ public:
+  using NativeControl::NativeControl;
+
+ protected:
+  Kind& control() const { return static_cast<Kind&>(NativeControl::control()); }
 };
 
 }  // namespace ui

@@ -1,5 +1,3 @@
-
-#include "ui/win32/CommonControls.h"
 #include "ui/win32/NativeListBox.h"
 #include "ui/win32/NativeTextBox.h"
 
@@ -7,113 +5,82 @@ namespace ui {
 
 namespace {
 
-class NativeCheckBox : public NativeControl {
+class NativeCheckBox : public NativeOf<CheckBox> {
  public:
-  NativeCheckBox(CheckBox& box, HWND window, Shell& shell)
-      : NativeControl(box, window, shell), box_(box) {}
+  using NativeOf::NativeOf;
 
   void Push(Property property) override {
     NativeControl::Push(property);
-    if (property == Property::kValue) PushValue();
-  }
-  void Notified(WORD notification) override {
-    if (notification != BN_CLICKED) return;
-    if (TakesInput()) {
-      box_.Clicked(SendMessageW(window(), BM_GETCHECK, 0, 0) == BST_CHECKED);
-    } else {
-      PushValue();
-    }
+    if (property != Property::kValue) return;
+    SendMessageW(window(), BM_SETCHECK, control().Value() ? BST_CHECKED : BST_UNCHECKED, 0);
   }
 
- private:
-  void PushValue() {
-    SendMessageW(window(), BM_SETCHECK, box_.Value() ? BST_CHECKED : BST_UNCHECKED, 0);
+ protected:
+  void TakeChange() override {
+    control().Clicked(SendMessageW(window(), BM_GETCHECK, 0, 0) == BST_CHECKED);
   }
-
-  CheckBox& box_;
 };
 
-class NativeButton : public NativeControl {
+class NativeButton : public NativeOf<Button> {
  public:
-  NativeButton(Button& button, HWND window, Shell& shell)
-      : NativeControl(button, window, shell), button_(button) {}
+  using NativeOf::NativeOf;
 
-  void Notified(WORD notification) override {
-    if (notification == BN_CLICKED && TakesInput()) button_.Clicked();
-  }
-
- private:
-  Button& button_;
-};
-
-/// One panel, as wide as the window.
-class NativeStatusBar : public NativeControl {
- public:
-  NativeStatusBar(StatusBar& bar, HWND window, Shell& shell) : NativeControl(bar, window, shell) {
-    const int toTheEdge = -1;
-    SendMessageW(window, SB_SETPARTS, 1, reinterpret_cast<LPARAM>(&toTheEdge));
-  }
-
-  void Push(Property property) override {
-    if (property != Property::kText) return;
-    SendMessageW(window(), SB_SETTEXTW, 0, reinterpret_cast<LPARAM>(control().Text().c_str()));
-  }
+ protected:
+  void TakeChange() override { control().Clicked(); }
 };
 
 /// A timer has no window: it ticks through the dialog's.
-class NativeTimer : public NativeControl {
+class NativeTimer : public NativeOf<Timer> {
  public:
-  NativeTimer(Timer& timer, HWND dialog, Shell& shell)
-      : NativeControl(timer, nullptr, shell), timer_(timer), dialog_(dialog) {}
+  NativeTimer(Control& timer, HWND dialog, Shell& shell)
+      : NativeOf(timer, nullptr, shell), dialog_(dialog) {}
   ~NativeTimer() override { KillTimer(dialog_, Id()); }
 
   void Push(Property property) override {
     if (property != Property::kInterval) return;
-    if (timer_.Interval() > 0) {
-      SetTimer(dialog_, Id(), static_cast<UINT>(timer_.Interval()), nullptr);
-    } else {
-      KillTimer(dialog_, Id());
-    }
+    KillTimer(dialog_, Id());
+    const auto interval = static_cast<UINT>(control().Interval());
+    if (interval > 0) SetTimer(dialog_, Id(), interval, nullptr);
   }
-  void Notified(WORD) override {
-    if (timer_.Interval() > 0 && TakesInput()) timer_.Ticked();
+
+ protected:
+  void TakeChange() override {
+    if (control().Interval() > 0) control().Ticked();
   }
 
  private:
-  UINT_PTR Id() const { return reinterpret_cast<UINT_PTR>(this); }
+  UINT_PTR Id() const { return reinterpret_cast<UINT_PTR>(&NativeControl::control()); }
 
-  Timer& timer_;
   HWND dialog_;
 };
 
-bool IsOwnerDrawn(HWND window) {
-  return (GetWindowLongW(window, GWL_STYLE) & SS_TYPEMASK) == SS_OWNERDRAW;
+template <typename Native>
+std::unique_ptr<NativeControl> New(Control& control, HWND window, Shell& shell) {
+  return std::make_unique<Native>(control, window, shell);
 }
 
 }  // namespace
 
-std::unique_ptr<NativeControl> NativeControl::Make(Control& control, HWND dialog, HWND window,
-                                                   Shell& shell) {
+std::unique_ptr<NativeControl> NativeControl::Make(Control& control, HWND window, Shell& shell) {
   switch (control.kind()) {
     case ControlKind::kTextBox:
-      return std::make_unique<NativeTextBox>(static_cast<TextBox&>(control), window, shell);
+      return New<NativeTextBox>(control, window, shell);
     case ControlKind::kCheckBox:
-      return std::make_unique<NativeCheckBox>(static_cast<CheckBox&>(control), window, shell);
+      return New<NativeCheckBox>(control, window, shell);
     case ControlKind::kButton:
-      return std::make_unique<NativeButton>(static_cast<Button&>(control), window, shell);
+      return New<NativeButton>(control, window, shell);
     case ControlKind::kListBox:
-      return std::make_unique<NativeListBox>(static_cast<ListBox&>(control), window, shell);
-    case ControlKind::kStatusBar:
-      return std::make_unique<NativeStatusBar>(static_cast<StatusBar&>(control), window, shell);
+      return New<NativeListBox>(control, window, shell);
+    case ControlKind::kListHeading:
+      return New<NativeListHeading>(control, window, shell);
     case ControlKind::kTimer:
-      return std::make_unique<NativeTimer>(static_cast<Timer&>(control), dialog, shell);
+      return New<NativeTimer>(control, window, shell);
     case ControlKind::kLabel:
-      if (IsOwnerDrawn(window)) return std::make_unique<ListHeading>(control, window, shell);
-      [[fallthrough]];
     case ControlKind::kFrame:
+    case ControlKind::kStatusBar:
       break;
   }
-  return std::make_unique<NativeControl>(control, window, shell);
+  return New<NativeControl>(control, window, shell);
 }
 
 }  // namespace ui

@@ -4,25 +4,25 @@
 
 namespace ui {
 
-class NativeTextBox : public NativeControl {
+class NativeTextBox : public NativeOf<TextBox> {
  public:
-  NativeTextBox(TextBox& box, HWND window, Shell& shell);
+  using NativeOf::NativeOf;
 
   void Push(Property property) override;
-  void Notified(WORD notification) override;
   HBRUSH Brush(HDC dc) override;
 
  protected:
+  void TakeChange() override;
   LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:
+  LRESULT Do(UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT Type(WPARAM wParam, LPARAM lParam);
-  void EraseWord();
   LRESULT Paste();
+  void EraseWord();
+  void Replace(std::wstring_view text);
+  void Select(int start, int end);
   void TakeSelection();
-  std::wstring NativeText() const;
-
-  TextBox& box_;
 };
 
 }  // namespace ui

@@ -3,28 +3,12 @@
 #include <algorithm>
 
 #include "common/ConstDefintions.h"
+#include "common/LineFeeds.h"
 #include "ui/win32/CommonControls.h"
 
 namespace ui {
 
 namespace {
-
-/// Switches windows off for its lifetime.
-class SwitchedOff {
- public:
-  explicit SwitchedOff(std::vector<HWND> windows) : windows_(std::move(windows)) {
-    std::erase_if(windows_, [](HWND window) { return !IsWindowEnabled(window); });
-    for (const HWND window : windows_) EnableWindow(window, FALSE);
-  }
-  ~SwitchedOff() {
-    for (const HWND window : windows_) EnableWindow(window, TRUE);
-  }
-  SwitchedOff(const SwitchedOff&) = delete;
-  SwitchedOff& operator=(const SwitchedOff&) = delete;
-
- private:
-  std::vector<HWND> windows_;
-};
 
 /// A modal form never outlives its ShowModal, however that ends.
 class HiddenAtEnd {
@@ -37,15 +21,6 @@ class HiddenAtEnd {
  private:
   Form& form_;
 };
-
-std::wstring WithLineBreaks(std::wstring_view text) {
-  std::wstring lines;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    if (text[i] == L'\n' && i > 0 && text[i - 1] == L'\r') continue;
-    lines += text[i] == L'\r' ? L'\n' : text[i];
-  }
-  return lines;
-}
 
 }  // namespace
 
@@ -104,7 +79,7 @@ int WindowsDesktop::ShowBox(std::wstring_view text, int style, std::wstring_view
   std::erase(others, owner);  // Windows sees to that one
   const SwitchedOff off(std::move(others));
   const std::wstring shownTitle = title.empty() ? defaultTitle_ : std::wstring(title);
-  const int answer = MessageBoxW(owner, WithLineBreaks(text).c_str(), shownTitle.c_str(),
+  const int answer = MessageBoxW(owner, common::WithLineFeeds(text).c_str(), shownTitle.c_str(),
                                  static_cast<UINT>(style) | MB_SETFOREGROUND);
   guard_.Rethrow();
   return answer == IDCANCEL ? common::kCancel : common::kOk;
