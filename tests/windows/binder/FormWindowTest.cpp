@@ -122,6 +122,22 @@ TEST_F(FormWindowOnScreen, EnterInAFieldDoesNothingAndOnAButtonClicksIt) {
   EXPECT_EQ(log(), Lines{L"Cancel"});
 }
 
+TEST_F(FormWindowOnScreen, EnterThatIsHeldPressesAButtonOnce) {
+  form.cmdOK.onClick = [&] { Log(L"OK"); };
+  Run([&](HWND window) {
+    const HWND button = Item(window, ID_cmdOK);
+    form.cmdOK.SetFocus();
+    driver::WaitForFocus(button);
+    PostMessageW(button, WM_KEYDOWN, VK_RETURN, 1);
+    for (int i = 0; i < 3; ++i) {
+      PostMessageW(button, WM_KEYDOWN, VK_RETURN, MAKELPARAM(1, KF_REPEAT));
+    }
+    driver::Press(button, VK_TAB);
+    driver::WaitForFocus(Item(window, ID_cmdCancel));
+  });
+  EXPECT_EQ(log(), Lines{L"OK"});
+}
+
 TEST_F(FormWindowOnScreen, AnAcceleratorGoesToTheFieldBehindItsLabel) {
   Run([&](HWND window) {
     driver::Press(Item(window, ID_txtPWCT), 'P', driver::kAlt);

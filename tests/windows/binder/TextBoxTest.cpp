@@ -68,6 +68,21 @@ TEST_F(TextBoxWindow, ALockedFieldCanBeFocusedSelectedAndCopiedButNotChanged) {
   EXPECT_EQ(log(), std::vector<std::wstring>{});
 }
 
+// Some edit controls know the key, and see to it before its character comes: hence the character
+// alone.
+TEST_F(TextBoxWindow, TheCharacterOfCtrlASelectsAllAndIsNeitherTypedNorFiltered) {
+  form.txtPWCT.SetText(L"4012345678");
+  form.txtPWCT.onKeyPress = [&](wchar_t&) { Log(L"key"); };
+  Run([&](HWND window) {
+    const HWND field = Item(window, ID_txtPWCT);
+    SendMessageW(field, WM_CHAR, 1, 0);
+    EXPECT_EQ(SendMessageW(field, EM_GETSEL, 0, 0), MAKELONG(0, 10));
+  });
+  EXPECT_EQ(form.txtPWCT.Text(), L"4012345678");
+  EXPECT_EQ(form.txtPWCT.SelectionLength(), 10);
+  EXPECT_EQ(log(), std::vector<std::wstring>{});
+}
+
 TEST_F(TextBoxWindow, PastedTextPassesThePasteHandlerNotTheKeyHandler) {
   form.txtPWCT.onKeyPress = [](wchar_t& key) { key = 0; };
   form.txtPWCT.onPaste = [](std::wstring_view text) { return L"<" + std::wstring(text) + L">"; };

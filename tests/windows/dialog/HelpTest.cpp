@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <mutex>
+
 #include "tests/windows/dialog/DialogStage.h"
 #include "tests/windows/driver/Driver.h"
 #include "ui/HelpDefinitions.h"
@@ -95,6 +97,50 @@ INSTANTIATE_TEST_SUITE_P(Each, StatusOf,
                                          L"chkOP", L"chkPrintPNR", L"chkTSTNoUpdate",
                                          L"chkTKNoUpdate", L"chkPanelMode", L"chkBOD",
                                          L"chkPasSegAsso", L"cmdOK", L"cmdCancel"));
+
+/// What the status bar is told, as far as this thread's windows have come.
+class StatusTexts {
+ public:
+  StatusTexts() : hook_(SetWindowsHookExW(WH_CALLWNDPROC, &See, nullptr, GetCurrentThreadId())) {
+    Take();
+  }
+  ~StatusTexts() { UnhookWindowsHookEx(hook_); }
+  StatusTexts(const StatusTexts&) = delete;
+  StatusTexts& operator=(const StatusTexts&) = delete;
+
+  static Lines Take() {
+    const std::lock_guard lock(mutex_);
+    return std::exchange(texts_, {});
+  }
+
+ private:
+  static LRESULT CALLBACK See(int code, WPARAM wide, LPARAM further) {
+    const auto& sent = *reinterpret_cast<const CWPSTRUCT*>(further);
+    if (code >= 0 && sent.message == WM_SETTEXT && GetDlgCtrlID(sent.hwnd) == ID_staStatusText) {
+      const std::lock_guard lock(mutex_);
+      texts_.emplace_back(reinterpret_cast<const wchar_t*>(sent.lParam));
+    }
+    return CallNextHookEx(nullptr, code, wide, further);
+  }
+
+  static inline std::mutex mutex_;
+  static inline Lines texts_;
+  HHOOK hook_;
+};
+
+TEST(Status, IsClearedWhenTheFocusLeavesBeforeTheNextControlSpeaks) {
+  DialogStage stage;
+  const StatusTexts texts;
+  stage.RunFilled([&] {
+    stage.GoTo(ID_chkPrintPNR);
+    WaitUntil(L"it is explained", [&] { return stage.Status() == StatusText(L"chkPrintPNR"); });
+    StatusTexts::Take();
+    driver::Press(stage.Item(ID_chkPrintPNR), VK_TAB);
+    WaitUntil(L"the next is explained",
+              [&] { return stage.Status() == StatusText(L"chkTSTNoUpdate"); });
+    EXPECT_EQ(StatusTexts::Take(), (Lines{L"", StatusText(L"chkTSTNoUpdate")}));
+  });
+}
 
 TEST(Status, OfTheFieldThatGetsTheFirstFocusIsThereFromTheStart) {
   DialogStage stage;

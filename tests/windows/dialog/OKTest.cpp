@@ -143,10 +143,15 @@ TEST(FromAPassedValidation, TheDialogTakesNoInputAtAllUntilTheEnd) {
 
 TEST(AFailedRun, GivesTheDialogBackToTheAgent) {
   DialogStage stage;
-  stage.actions.inRun = [] { throw common::RunTimeError(L"broken"); };
+  std::atomic<bool> failed = false;
+  stage.actions.inRun = [&] {
+    failed = true;
+    throw common::RunTimeError(L"broken");
+  };
   stage.RunFilled([&] {
     stage.GoTo(ID_txtPWCT);
     driver::Click(stage.Item(ID_cmdOK));
+    WaitUntil(L"the run has failed", [&] { return failed.load(); });
     stage.GoTo(ID_txtPWCT);
     driver::TypeOver(stage.Item(ID_txtPWCT), L"again");
     WaitUntil(L"the dialog takes keys again", [&] { return stage.Text(ID_txtPWCT) == L"AGAIN"; });
