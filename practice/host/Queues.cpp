@@ -52,6 +52,12 @@ bool Queues::Put(const Place& place, std::wstring_view locator) {
   return true;
 }
 
+std::vector<Queues::Place> Queues::Known() const {
+  std::vector<Place> places;
+  for (const auto& [place, queue] : queues_) places.push_back(place);
+  return places;
+}
+
 std::vector<std::wstring> Queues::At(const Place& place) const {
   const auto queue = queues_.find(place);
   return queue == queues_.end() ? std::vector<std::wstring>() : queue->second.locators;

@@ -33,6 +33,8 @@ class Queues {
   State StateOf(const Place& place) const;
   /// False when the PNR is there already. The queue must not be closed.
   bool Put(const Place& place, std::wstring_view locator);
+  /// The places that hold a PNR or were told a state, by office, number and category.
+  std::vector<Place> Known() const;
   /// Record locators, in the order in which they came.
   std::vector<std::wstring> At(const Place& place) const;
 

@@ -73,6 +73,8 @@ void Host::LoadBooking(std::wstring_view text) {
   active_ = changed_ = false;
   scene_ = {};
   queues_.OpenAll();
+  printed_.clear();
+  backOffice_.clear();
   if (text.starts_with(L'\xFEFF')) text.remove_prefix(1);
   int number = 0;
   for (std::wstring& line : syntax::Split(text, L'\n')) {

@@ -4,6 +4,7 @@
 #include "common/Text.h"
 #include "hostlib/Recorder.h"
 #include "platform/FixedPlatform.h"
+#include "practice/host/Holdings.h"
 #include "practice/library/IniText.h"
 #include "practice/library/PracticeLibrary.h"
 #include "practice/rehearsal/ScriptedAgent.h"
@@ -97,6 +98,9 @@ class Stage {
     outcome_.officeDateAfter = userValues_.Date();
     outcome_.printed = host_.Printed();
     outcome_.sentToBackOffice = host_.SentToBackOffice();
+    outcome_.printedText = PrintedText(host_);
+    outcome_.backOfficeText = BackOfficeText(host_);
+    outcome_.queuesText = QueuesText(host_);
     outcome_.liveObjects = library_.LiveObjects();
     return std::move(outcome_);
   }

@@ -56,6 +56,10 @@ struct RehearsalOutcome {
   std::wstring officeDateAfter;  ///< and its date
   std::vector<std::wstring> printed;
   std::vector<std::wstring> sentToBackOffice;
+  // What the host holds after the run, for people to read.
+  std::wstring printedText;
+  std::wstring backOfficeText;
+  std::wstring queuesText;
   int liveObjects = 0;  ///< library objects not released
 
   /// The entries alone.

@@ -130,6 +130,9 @@ void Print(const practice::RehearsalOutcome& outcome, bool calls) {
   }
   Print("what the agent saw and did", outcome.seen);
   std::cout << "== PNR after\n" << Console(outcome.pnrAfter) << "\n";
+  std::cout << "== printed copies\n" << Console(outcome.printedText) << "\n";
+  std::cout << "== sent to back office\n" << Console(outcome.backOfficeText) << "\n";
+  std::cout << "== queues\n" << Console(outcome.queuesText) << "\n";
 }
 
 }  // namespace

@@ -62,6 +62,13 @@ TEST(OrdinaryRun, PrintsThePNR) {
   EXPECT_EQ(RehearseInAgreement(OrdinaryScene()).printed.size(), 1u);
 }
 
+TEST(OrdinaryRun, SaysWhatTheHostHoldsAfterwards) {
+  const auto outcome = RehearseInAgreement(OrdinaryScene());
+  EXPECT_EQ(outcome.printedText, L"COPY 1\r\n" + outcome.printed.at(0));
+  EXPECT_EQ(outcome.backOfficeText, L"ABC123 RETAIN");
+  EXPECT_EQ(outcome.queuesText, L"QUEUE 80 AT STOSK08AA, ON: ABC123");
+}
+
 TEST(OrdinaryRun, LeavesTheSettingsFileAsItWas) {
   const auto scene = OrdinaryScene();
   EXPECT_EQ(RehearseInAgreement(scene).iniAfter, scene.ini);
