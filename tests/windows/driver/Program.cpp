@@ -42,39 +42,7 @@ HWND WithControl(const std::vector<HWND>& windows, int controlId) {
 
 }  // namespace
 
-Program::Program(const std::wstring& path) {
-  STARTUPINFOW startup = {};
-  startup.cb = sizeof startup;
-  const std::wstring folder = path.substr(0, path.find_last_of(L"\\/"));
-  if (!CreateProcessW(path.c_str(), nullptr, nullptr, nullptr, FALSE, 0, nullptr, folder.c_str(),
-                      &startup, &process_)) {
-    throw DriverError(L"Cannot start " + path);
-  }
-}
-
-Program::~Program() {
-  if (IsRunning()) Kill();
-  CloseHandle(process_.hThread);
-  CloseHandle(process_.hProcess);
-}
-
-void Program::Kill() {
-  TerminateProcess(process_.hProcess, 99);
-  WaitForSingleObject(process_.hProcess, 5000);
-}
-
-bool Program::IsRunning() const {
-  return WaitForSingleObject(process_.hProcess, 0) == WAIT_TIMEOUT;
-}
-
-DWORD Program::ExitCode() const {
-  WaitUntil(L"the program has ended", [this] { return !IsRunning(); });
-  DWORD code = 0;
-  GetExitCodeProcess(process_.hProcess, &code);
-  return code;
-}
-
-std::vector<HWND> Program::Windows() const { return WindowsOf(process_.dwProcessId); }
+std::vector<HWND> Program::Windows() const { return WindowsOf(id()); }
 
 HWND Program::WindowWith(int controlId) const { return WithControl(Windows(), controlId); }
 

@@ -1,26 +1,16 @@
 #pragma once
 
-#include <windows.h>
-
 #include <functional>
-#include <string>
 #include <vector>
+
+#include "tests/windows/driver/Process.h"
 
 namespace driver {
 
-/// A program that was started to be driven. Ended, if need be by force, when this goes.
-class Program {
+/// A program with windows, started to be driven.
+class Program : public Process {
  public:
-  explicit Program(const std::wstring& path);
-  ~Program();
-  Program(const Program&) = delete;
-  Program& operator=(const Program&) = delete;
-
-  /// Ends it as the task manager does.
-  void Kill();
-  bool IsRunning() const;
-  /// Waits for its end and gives its exit code.
-  DWORD ExitCode() const;
+  using Process::Process;
 
   /// Its visible top-level windows.
   std::vector<HWND> Windows() const;
@@ -35,8 +25,6 @@ class Program {
 
  private:
   HWND WaitFor(const std::wstring& content, const std::function<HWND()>& find) const;
-
-  PROCESS_INFORMATION process_ = {};
 };
 
 }  // namespace driver

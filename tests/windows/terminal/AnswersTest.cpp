@@ -10,6 +10,7 @@
 #include "practice/library/win32/WindowsProfiles.h"
 #include "practice/terminal/Bookings.h"
 #include "tests/windows/driver/Driver.h"
+#include "tests/windows/driver/Process.h"
 #include "tests/windows/terminal/Client.h"
 #include "tests/windows/terminal/Terminal.h"
 
@@ -263,7 +264,7 @@ class Work {
 };
 
 TEST(TerminalAnswers, AreThoseOfTheLibraryItself) {
-  const terminal::Process running(terminal::Program(), kBooking);
+  const driver::Process running(terminal::Program(), kBooking);
   driver::WaitUntil(L"the terminal is there",
                     [] { return FindWindowW(L"VantelPracticeTerminal", nullptr) != nullptr; });
   Direct direct;
@@ -272,7 +273,7 @@ TEST(TerminalAnswers, AreThoseOfTheLibraryItself) {
   hostlib::com::ComLibrary overCom(installed);
   const Lines answers = Work(overCom).Do();
   PostMessageW(FindWindowW(L"VantelPracticeTerminal", nullptr), WM_CLOSE, 0, 0);
-  running.Wait();
+  running.ExitCode();
   ASSERT_EQ(answers.size(), expected.size());
   for (std::size_t i = 0; i < expected.size(); ++i) {
     EXPECT_EQ(driver::ToUtf8(answers[i]), driver::ToUtf8(expected[i]));

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "tests/windows/driver/Driver.h"
+#include "tests/windows/driver/Process.h"
 #include "tests/windows/terminal/Client.h"
 #include "tests/windows/terminal/Terminal.h"
 
@@ -21,7 +22,7 @@ TEST(TerminalLifetime, NothingIsLeftOfReleasedObjects) {
 
 TEST(TerminalLifetime, NothingIsLeftOfAClientThatWasKilled) {
   const HANDLE held = CreateEventW(nullptr, TRUE, FALSE, L"PtaObjectsAreHeld");
-  terminal::Process holder(terminal::TestProgram(), L"--hold-objects");
+  driver::Process holder(terminal::TestProgram(), L"--hold-objects");
   ASSERT_EQ(WaitForSingleObject(held, 20'000), WAIT_OBJECT_0);
   CloseHandle(held);
   EXPECT_EQ(client::LiveObjects(), 2);
@@ -31,14 +32,13 @@ TEST(TerminalLifetime, NothingIsLeftOfAClientThatWasKilled) {
 
 TEST(TerminalLifetime, ClientsThatComeWhileOthersLeaveAllGetTheirObjects) {
   const auto kept = client::Make(L"ScriptGlobal");
-  std::vector<std::unique_ptr<terminal::Process>> clients;
+  std::vector<std::unique_ptr<driver::Process>> clients;
   for (int i = 0; i < 2; ++i) {
-    clients.push_back(
-        std::make_unique<terminal::Process>(terminal::TestProgram(), L"--come-and-go"));
+    clients.push_back(std::make_unique<driver::Process>(terminal::TestProgram(), L"--come-and-go"));
   }
   for (const auto& one : clients) {
     ASSERT_TRUE(driver::Holds([&one] { return !one->IsRunning(); }, std::chrono::seconds(60)));
-    EXPECT_EQ(one->Wait(), 0u);
+    EXPECT_EQ(one->ExitCode(), 0u);
   }
 }
 

@@ -24,16 +24,18 @@ bool SessionCanBeMade() {
 }
 
 HWND OpenWindow(const std::wstring& booking) {
-  Launch(Program(), booking.empty() ? booking : L"\"" + booking + L"\"");
+  driver::Launch(Program(), booking.empty() ? booking : L"\"" + booking + L"\"");
   return WaitUntilOpen();
 }
 
 void Register(const std::wstring& program) {
-  if (Process(program, L"/regserver").Wait() == 0) return;
+  if (driver::Process(program, L"/regserver").ExitCode() == 0) return;
   throw driver::DriverError(program + L" can not be registered");
 }
 
-void Unregister(const std::wstring& program) { Process(program, L"/unregserver").Wait(); }
+void Unregister(const std::wstring& program) {
+  driver::Process(program, L"/unregserver").ExitCode();
+}
 
 }  // namespace
 
@@ -61,7 +63,7 @@ PracticeTerminal::~PracticeTerminal() {
 void PracticeTerminal::Close() {
   if (!process_.IsRunning()) return;
   PostMessageW(window_, WM_CLOSE, 0, 0);
-  process_.Wait();
+  process_.ExitCode();
 }
 
 void PracticeTerminal::Kill() {

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "tests/windows/driver/Process.h"
 #include "tests/windows/terminal/Terminal.h"
 
 namespace terminal {
@@ -52,7 +53,7 @@ class PracticeTerminal {
  private:
   HWND window_;
   /// Not always the one that was started: a server without a window shows its own when it is asked.
-  Process process_;
+  driver::Process process_;
 };
 
 /// Waits until scripts can use a terminal that is open or about to be, and gives its window. Throws

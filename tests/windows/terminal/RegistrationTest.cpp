@@ -62,7 +62,7 @@ class SecondCopy : public testing::Test {
     std::error_code ignored;
     fs::remove_all(folder_, ignored);
     // As the other tests want it.
-    terminal::Process(terminal::Program(), L"/regserver").Wait();
+    driver::Process(terminal::Program(), L"/regserver").ExitCode();
   }
   fs::path Path() const { return folder_ / terminal::kPracticeTerminal; }
 
@@ -71,10 +71,10 @@ class SecondCopy : public testing::Test {
 };
 
 TEST_F(SecondCopy, ThatIsRegisteredStaysSoWhenTheFirstIsUnregistered) {
-  terminal::Process(terminal::Program(), L"/regserver").Wait();
+  driver::Process(terminal::Program(), L"/regserver").ExitCode();
   {
     const terminal::Registered second(Path().wstring());
-    terminal::Process(terminal::Program(), L"/unregserver").Wait();
+    driver::Process(terminal::Program(), L"/unregserver").ExitCode();
     EXPECT_EQ(RegisteredProgram(), Path().wstring());
     EXPECT_EQ(RegisteredTypes(), Path().wstring());
   }
@@ -84,7 +84,7 @@ TEST_F(SecondCopy, ThatIsRegisteredStaysSoWhenTheFirstIsUnregistered) {
 TEST_F(SecondCopy, ThatWasRemovedWithoutAWordIsUnregisteredByAnother) {
   {
     const terminal::Registered first;
-    terminal::Process(Path().wstring(), L"/regserver").Wait();
+    driver::Process(Path().wstring(), L"/regserver").ExitCode();
     fs::remove(Path());
   }
   EXPECT_EQ(RegisteredProgram(), L"");

@@ -118,13 +118,13 @@ TEST_F(TerminalWindow, TheMenuHasTheBookingsFromEasyToHard) {
 }
 
 TEST_F(TerminalWindow, ASecondStartShowsTheRunningOneAndOpensItsBookingThere) {
-  EXPECT_EQ(terminal::Process(terminal::Program(), L"document-on-its-way").Wait(), 0U);
+  EXPECT_EQ(driver::Process(terminal::Program(), L"document-on-its-way").ExitCode(), 0U);
   EXPECT_THAT(Status(), HasSubstr(L"Booking: document-on-its-way"));
   EXPECT_EQ(terminal::Running(), 1);
 }
 
 TEST_F(TerminalWindow, IssuesTheMissingDocument) {
-  terminal::Process(terminal::Program(), L"document-on-its-way").Wait();
+  driver::Process(terminal::Program(), L"document-on-its-way").ExitCode();
   EXPECT_EQ(Send(L"RT").find(L",FA "), std::wstring::npos);
   Choose(Command::kIssueDocument);
   EXPECT_THAT(Send(L"IR"), HasSubstr(L",FA 117-4012345671"));
