@@ -4,6 +4,7 @@
 
 #include "practice/terminal/Clipboard.h"
 #include "practice/terminal/Diagnostics.h"
+#include "practice/terminal/Texts.h"
 #include "practice/terminal/resources.h"
 #include "version.h"
 
@@ -11,16 +12,16 @@ namespace practice::terminal {
 namespace {
 
 void Fill(HWND box) {
-  SetWindowTextW(box, kAboutTitle);
-  SetDlgItemTextW(
-      box, IDC_ABOUT_VERSION,
-      L"Vantel practice "
-      L"terminal " PTA_VERSION_WIDE_TEXT L"\nFor practice only: there is no real host behind it.");
+  const std::wstring version = texts::kAboutName;
+  SetWindowTextW(box, texts::kAboutTitle);
+  SetDlgItemTextW(box, IDC_ABOUT_VERSION,
+                  (version + PTA_VERSION_WIDE_TEXT L"\n" + texts::kAboutPractice).c_str());
+  SetDlgItemTextW(box, IDC_COPY_DIAGNOSTICS, texts::kCopyDiagnostics);
 }
 
 void CopyDiagnostics(HWND box) {
   PutOnClipboard(box, DiagnosticsText());
-  SetDlgItemTextW(box, IDC_COPY_DIAGNOSTICS, L"Copied");
+  SetDlgItemTextW(box, IDC_COPY_DIAGNOSTICS, texts::kCopied);
 }
 
 INT_PTR CALLBACK Receive(HWND box, UINT message, WPARAM wide, LPARAM) noexcept {

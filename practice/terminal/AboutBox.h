@@ -4,8 +4,6 @@
 
 namespace practice::terminal {
 
-inline constexpr wchar_t kAboutTitle[] = L"About the practice terminal";
-
 /// Says what this program is, and puts what a help desk asks for on the clipboard. Returns when the
 /// box is closed; scripts are served meanwhile.
 void ShowAbout(HWND owner);

@@ -3,6 +3,7 @@
 #include "common/RunTimeError.h"
 #include "practice/host/BookingOrder.h"
 #include "practice/terminal/TextFile.h"
+#include "practice/terminal/Texts.h"
 #include "practice/terminal/TypeLibrary.h"
 
 namespace practice::terminal {
@@ -34,7 +35,7 @@ std::vector<std::wstring> Bookings::Names() const {
 std::wstring Bookings::Read(const std::wstring& nameOrPath) const {
   auto text = ReadFileText(Folder() + nameOrPath + kEnding);
   if (!text) text = ReadFileText(nameOrPath);
-  if (!text) throw common::RunTimeError(L"There is no practice booking " + nameOrPath + L".");
+  if (!text) throw common::RunTimeError(texts::kNoBooking + nameOrPath + L".");
   return *text;
 }
 

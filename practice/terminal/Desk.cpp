@@ -2,7 +2,9 @@
 
 #include <algorithm>
 
+#include "practice/host/Holdings.h"
 #include "practice/library/PnrDisplayText.h"
+#include "practice/terminal/Texts.h"
 
 namespace practice::terminal {
 namespace {
@@ -25,16 +27,22 @@ void Desk::LoadBooking(std::wstring_view booking, std::wstring_view name) {
   booking_.clear();
   host_.LoadBooking(booking);
   booking_ = name;
-  Note(L"--- Practice booking " + booking_ + L" ---\r\n\r\n");
+  NoteHeaded(texts::kBookingOpened + booking_);
 }
 
 void Desk::Enter(std::wstring_view entry) {
   try {
     host_.Enter(entry);
   } catch (const SessionLost&) {
-    Note(L"> " + std::wstring(entry) + L"\r\n(no answer: the session to the host is lost)\r\n\r\n");
+    Note(L"> " + std::wstring(entry) + L"\r\n" + texts::kNoAnswer + L"\r\n\r\n");
   }
 }
+
+void Desk::ShowPrinted() { NoteHeaded(texts::kPrinted, PrintedText(host_)); }
+
+void Desk::ShowBackOffice() { NoteHeaded(texts::kBackOffice, BackOfficeText(host_)); }
+
+void Desk::ShowQueues() { NoteHeaded(texts::kQueues, QueuesText(host_)); }
 
 void Desk::RefuseEntry(int number, std::wstring_view reason) {
   host_.faults.refusals[host_.EntryCount() + number] = reason;
@@ -69,16 +77,25 @@ void Desk::BehaveWell() { host_.faults = {}; }
 
 std::wstring Desk::FaultText() const {
   const Faults& faults = host_.faults;
-  if (faults.dropFrom > 0) return L"session lost";
+  if (faults.dropFrom > 0) return texts::kSessionLost;
   std::wstring text;
-  const auto add = [&text](const wchar_t* fault) {
+  const auto add = [&text](const std::wstring& fault) {
     if (!text.empty()) text += L", ";
     text += fault;
   };
-  if (faults.refusals.contains(Next())) add(L"refuses the next entry");
-  if (faults.garbage.contains(Next())) add(L"garbles the next answer");
-  if (faults.slow) add(L"slow");
+  for (const auto& [entry, reason] : faults.refusals) {
+    const int fromNow = entry - host_.EntryCount();
+    if (fromNow == 1) add(texts::kRefusesNext);
+    if (fromNow > 1) add(texts::kRefusesLater + std::to_wstring(fromNow) + texts::kFromNow);
+  }
+  if (faults.garbage.contains(Next())) add(texts::kGarblesNext);
+  if (faults.slow) add(texts::kIsSlow);
   return text;
+}
+
+void Desk::NoteHeaded(std::wstring_view heading, const std::wstring& text) {
+  Note(L"--- " + std::wstring(heading) + L" ---\r\n" + text + (text.empty() ? L"" : L"\r\n") +
+       L"\r\n");
 }
 
 void Desk::Note(std::wstring text) {

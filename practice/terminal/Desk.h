@@ -21,8 +21,12 @@ class Desk {
   /// An entry as the agent types it; the answer goes into the transcript, as every other.
   void Enter(std::wstring_view entry);
 
+  // What the host holds, into the transcript.
+  void ShowPrinted();
+  void ShowBackOffice();
+  void ShowQueues();
+
   // Misbehaviour: of the next entry, or from it on. A new one leaves the earlier ones.
-  void RefuseNext(std::wstring_view reason) { RefuseEntry(1, reason); }
   /// The next entry is number 1.
   void RefuseEntry(int number, std::wstring_view reason);
   void GarbleNext();
@@ -49,6 +53,7 @@ class Desk {
 
  private:
   void Note(std::wstring text);
+  void NoteHeaded(std::wstring_view heading, const std::wstring& text = {});
   int Next() const { return host_.EntryCount() + 1; }
 
   Host& host_;

@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include "practice/library/PracticeObject.h"
+#include "practice/terminal/Texts.h"
 #include "practice/terminal/Waiting.h"
 
 namespace practice::terminal {
@@ -22,13 +23,13 @@ class DeskObject : public PracticeObject {
       return Value(static_cast<std::int32_t>(exporter.Live()));
     });
     OnSlot(8, [&desk](const Arguments& a) {
-      desk.LoadBooking(a[0].Text(), L"of a program");
+      desk.LoadBooking(a[0].Text(), texts::kStatusOfAProgram);
       return Value();
     });
     OnSlot(9, [&desk](const Arguments&) { return Value(desk.PnrText()); });
     OnSlot(10, [&desk](const Arguments&) { return Value(desk.transcript()); });
     OnSlot(11, [&desk](const Arguments& a) {
-      desk.RefuseNext(a[0].Text());
+      desk.RefuseEntry(1, a[0].Text());
       return Value();
     });
     OnSlot(17, [&desk](const Arguments& a) {

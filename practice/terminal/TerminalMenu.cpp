@@ -1,13 +1,44 @@
 #include "practice/terminal/TerminalMenu.h"
 
+#include "practice/terminal/Texts.h"
+
 namespace practice::terminal {
 namespace {
 
-void Add(HMENU menu, Command command, const wchar_t* text) {
-  AppendMenuW(menu, MF_STRING, static_cast<UINT_PTR>(command), text);
+struct Line {
+  Command command;
+  const wchar_t* text;  ///< null: a line between
+};
+
+constexpr Line kBetween = {Command{}, nullptr};
+
+constexpr Line kHostLines[] = {
+    {Command::kGarbleNext, texts::kGarbleNext},       {Command::kLoseEntry, texts::kLoseEntry},
+    {Command::kLoseAnswer, texts::kLoseAnswer},       {Command::kSlow, texts::kSlow},
+    {Command::kIssueDocument, texts::kIssueDocument}, kBetween,
+    {Command::kBehaveWell, texts::kBehaveWell},
+};
+constexpr Line kShowLines[] = {
+    {Command::kShowPrinted, texts::kShowPrinted},
+    {Command::kShowBackOffice, texts::kShowBackOffice},
+    {Command::kShowQueues, texts::kShowQueues},
+};
+constexpr Line kTerminalLines[] = {
+    {Command::kOpenFile, texts::kOpenFile},
+    {Command::kCopyTranscript, texts::kCopyTranscript},
+    kBetween,
+    {Command::kEnd, texts::kEnd},
+};
+
+void Add(HMENU menu, const Line& line, UINT kind = MF_STRING) {
+  const UINT shown = line.text == nullptr ? UINT{MF_SEPARATOR} : kind;
+  AppendMenuW(menu, shown, static_cast<UINT_PTR>(line.command), line.text);
 }
 
-void AddLine(HMENU menu) { AppendMenuW(menu, MF_SEPARATOR, 0, nullptr); }
+template <std::size_t count>
+void Add(HMENU menu, const Line (&lines)[count]) {
+  for (const Line& line : lines) Add(menu, line);
+}
 
 HMENU AddMenu(HMENU bar, const wchar_t* text) {
   HMENU menu = CreatePopupMenu();
@@ -15,36 +46,36 @@ HMENU AddMenu(HMENU bar, const wchar_t* text) {
   return menu;
 }
 
-void AddBookings(HMENU menu, const std::vector<std::wstring>& bookings) {
-  // So many that they would not stand in one column.
-  constexpr std::size_t kRows = 20;
-  for (std::size_t i = 0; i < bookings.size(); ++i) {
-    const UINT column = i > 0 && i % kRows == 0 ? MF_MENUBARBREAK : 0U;
-    AppendMenuW(menu, MF_STRING | column, static_cast<UINT_PTR>(Command::kFirstBooking) + i,
-                bookings[i].c_str());
+/// In columns: these are so many that they would not stand in one.
+void AddMany(HMENU menu, Command first, const std::vector<std::wstring>& texts) {
+  constexpr int kRows = 20;
+  int place = 0;
+  for (const std::wstring& text : texts) {
+    const UINT column = place > 0 && place % kRows == 0 ? MF_MENUBARBREAK : 0U;
+    Add(menu, {Behind(first, place++), text.c_str()}, MF_STRING | column);
   }
+}
+
+std::vector<std::wstring> NumbersFrom2() {
+  std::vector<std::wstring> numbers;
+  for (int number = 2; number <= kLastRefusable; ++number) {
+    numbers.push_back(std::to_wstring(number));
+  }
+  return numbers;
 }
 
 }  // namespace
 
 HMENU NewTerminalMenu(const std::vector<std::wstring>& bookings) {
   HMENU bar = CreateMenu();
-  AddBookings(AddMenu(bar, L"&Booking"), bookings);
-  const HMENU host = AddMenu(bar, L"&Host");
-  Add(host, Command::kRefuseNext, L"&Refuse the next entry");
-  Add(host, Command::kGarbleNext, L"&Garble the next answer");
-  Add(host, Command::kLoseEntry, L"&Lose the session before the next entry");
-  Add(host, Command::kLoseAnswer, L"Lose the session &after the next entry");
-  Add(host, Command::kSlow, L"Be &slow");
-  Add(host, Command::kIssueDocument, L"Issue the missing &document (FA)");
-  AddLine(host);
-  Add(host, Command::kBehaveWell, L"&Behave well again");
-  const HMENU terminal = AddMenu(bar, L"&Terminal");
-  Add(terminal, Command::kOpenFile, L"&Open a booking of your own...");
-  Add(terminal, Command::kCopyTranscript, L"&Copy the transcript");
-  AddLine(terminal);
-  Add(terminal, Command::kEnd, L"E&nd");
-  Add(AddMenu(bar, L"Hel&p"), Command::kAbout, L"&About the practice terminal...");
+  AddMany(AddMenu(bar, texts::kBooking), Command::kFirstBooking, bookings);
+  HMENU host = AddMenu(bar, texts::kHost);
+  Add(host, {Command::kRefuseNext, texts::kRefuseNext});
+  AddMany(AddMenu(host, texts::kRefuseLater), Behind(Command::kRefuseLater, 2), NumbersFrom2());
+  Add(host, kHostLines);
+  Add(AddMenu(bar, texts::kShow), kShowLines);
+  Add(AddMenu(bar, texts::kTerminal), kTerminalLines);
+  Add(AddMenu(bar, texts::kHelp), {Command::kAbout, texts::kAbout});
   return bar;
 }
 

@@ -4,23 +4,15 @@
 // clang-format off
 #include <windows.h>
 #include <commctrl.h>
-#include <commdlg.h>
 // clang-format on
 
-#include <array>
-
-#include "practice/terminal/AboutBox.h"
-#include "practice/terminal/Clipboard.h"
 #include "practice/terminal/TerminalMenu.h"
-#include "practice/terminal/Waiting.h"
+#include "practice/terminal/Texts.h"
 #include "practice/terminal/resources.h"
 
 namespace practice::terminal {
 namespace {
 
-constexpr wchar_t kTitle[] = L"Vantel terminal - PRACTICE - nothing here reaches a real host";
-constexpr wchar_t kName[] = L"Vantel practice terminal";
-constexpr std::chrono::milliseconds kSlowness(2000);
 constexpr int kLongestView = 1'000'000;
 constexpr UINT_PTR kLookForTheDead = 1;
 constexpr UINT kLookEvery = 500;
@@ -51,10 +43,10 @@ TerminalWindow::TerminalWindow(Server& server)
       entryLine_([this](const std::wstring& entry) { Send(entry); }) {
   RegisterWindowClass(Receive);
   const int unit = static_cast<int>(GetDpiForSystem());
-  window_ = CreateWindowExW(0, kTerminalClass, kTitle, WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
+  window_ = CreateWindowExW(0, kTerminalClass, texts::kTitle, WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
                             CW_USEDEFAULT, CW_USEDEFAULT, 8 * unit, 6 * unit, nullptr,
                             NewTerminalMenu(names_), GetModuleHandleW(nullptr), this);
-  if (window_ == nullptr) throw common::RunTimeError(L"The terminal's window can not be made");
+  if (window_ == nullptr) throw common::RunTimeError(texts::kNoWindow);
   server_.desk().onTranscript = [this](std::wstring_view text) { Append(text); };
   server_.exporter().onChange = [this](int) { UpdateStatus(); };
 }
@@ -104,7 +96,7 @@ LRESULT CALLBACK TerminalWindow::Receive(HWND window, UINT message, WPARAM wide,
   } catch (const common::RunTimeError& error) {
     self->Complain(error.description());
   } catch (...) {
-    self->Complain(L"Out of memory.");
+    self->Complain(texts::kNoMemory);
   }
   return 0;
 }
@@ -186,71 +178,6 @@ void TerminalWindow::Arrange() {
   MoveWindow(Item(kEntryId), 0, bottom - entry, area.right, entry, TRUE);
 }
 
-void TerminalWindow::Do(WORD command) {
-  Desk& desk = server_.desk();
-  const auto booking =
-      static_cast<std::size_t>(command) - static_cast<std::size_t>(Command::kFirstBooking);
-  if (command >= static_cast<WORD>(Command::kFirstBooking)) {
-    if (booking < names_.size()) OpenBooking(names_[booking]);
-    return;
-  }
-  switch (static_cast<Command>(command)) {
-    case Command::kOpenFile:
-      OpenFile();
-      break;
-    case Command::kRefuseNext:
-      desk.RefuseNext(L"THE TRAINER WANTS IT SO");
-      break;
-    case Command::kGarbleNext:
-      desk.GarbleNext();
-      break;
-    case Command::kLoseEntry:
-      desk.DropSession(false);
-      break;
-    case Command::kLoseAnswer:
-      desk.DropSession(true);
-      break;
-    case Command::kSlow:
-      ToggleSlow();
-      break;
-    case Command::kIssueDocument:
-      if (!desk.IssueDocument()) Complain(L"The PNR has no MCO without a document.");
-      break;
-    case Command::kBehaveWell:
-      desk.BehaveWell();
-      break;
-    case Command::kCopyTranscript:
-      PutOnClipboard(window_, desk.transcript());
-      break;
-    case Command::kAbout:
-      ShowAbout(window_);
-      break;
-    case Command::kEnd:
-      PostMessageW(window_, WM_CLOSE, 0, 0);
-      break;
-    default:
-      break;
-  }
-  UpdateStatus();
-}
-
-void TerminalWindow::OpenBooking(const std::wstring& nameOrPath) {
-  server_.desk().LoadBooking(bookings_.Read(nameOrPath), nameOrPath);
-  UpdateStatus();
-}
-
-void TerminalWindow::OpenFile() {
-  std::array<wchar_t, 1024> path = {};
-  OPENFILENAMEW asked = {};
-  asked.lStructSize = sizeof asked;
-  asked.hwndOwner = window_;
-  asked.lpstrFilter = L"Practice bookings (*.pnr)\0*.pnr\0";
-  asked.lpstrFile = path.data();
-  asked.nMaxFile = static_cast<DWORD>(path.size());
-  asked.Flags = OFN_FILEMUSTEXIST | OFN_NOCHANGEDIR | OFN_HIDEREADONLY;
-  if (GetOpenFileNameW(&asked)) OpenBooking(path.data());
-}
-
 void TerminalWindow::Send(const std::wstring& entry) {
   // An entry of one's own is out, on a slow host; those of scripts go their own way.
   if (sending_) {
@@ -276,31 +203,17 @@ void TerminalWindow::Append(std::wstring_view text) {
   UpdateStatus();
 }
 
-void TerminalWindow::ToggleSlow() {
-  Desk& desk = server_.desk();
-  if (desk.IsSlow()) {
-    desk.SlowDown(nullptr);
-  } else {
-    desk.SlowDown([] { WaitAlive(kSlowness); });
-  }
-}
-
 void TerminalWindow::UpdateStatus() {
   if (window_ == nullptr) return;
   const Desk& desk = server_.desk();
   const std::wstring faults = desk.FaultText();
-  const std::wstring status = L"PRACTICE - no real host   |   Booking: " +
-                              (desk.booking().empty() ? std::wstring(L"none") : desk.booking()) +
-                              L"   |   Host: " + (faults.empty() ? std::wstring(L"well") : faults) +
-                              L"   |   Objects in use: " +
-                              std::to_wstring(server_.exporter().Live());
+  const std::wstring status = texts::kStatusBooking +
+                              (desk.booking().empty() ? texts::kStatusNoBooking : desk.booking()) +
+                              texts::kStatusHost + (faults.empty() ? texts::kWell : faults) +
+                              texts::kStatusObjects + std::to_wstring(server_.exporter().Live());
   SetWindowTextW(Item(kStatusId), status.c_str());
   CheckMenuItem(GetMenu(window_), static_cast<UINT>(Command::kSlow),
                 static_cast<UINT>(MF_BYCOMMAND | (desk.IsSlow() ? MF_CHECKED : MF_UNCHECKED)));
-}
-
-void TerminalWindow::Complain(const std::wstring& text) {
-  MessageBoxW(window_, text.c_str(), kName, MB_ICONWARNING);
 }
 
 }  // namespace practice::terminal

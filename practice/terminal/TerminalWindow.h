@@ -5,6 +5,7 @@
 #include "practice/terminal/Bookings.h"
 #include "practice/terminal/EntryLine.h"
 #include "practice/terminal/Server.h"
+#include "practice/terminal/TerminalMenu.h"
 
 namespace practice::terminal {
 
@@ -38,6 +39,7 @@ class TerminalWindow {
   void Arrange();
   void SetFont();
   void Do(WORD command);
+  void Do(Command command);
   void OpenBooking(const std::wstring& nameOrPath);
   void OpenFile();
   void Send(const std::wstring& entry);

@@ -6,6 +6,7 @@
 #include "platform/win32/DllSearch.h"
 #include "practice/terminal/Registration.h"
 #include "practice/terminal/TerminalWindow.h"
+#include "practice/terminal/Texts.h"
 
 namespace {
 
@@ -78,7 +79,7 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, LPWSTR line, int) {
   try {
     return Run(line);
   } catch (const common::RunTimeError& error) {
-    MessageBoxW(nullptr, error.description().c_str(), L"Vantel practice terminal",
+    MessageBoxW(nullptr, error.description().c_str(), texts::kBoxTitle,
                 MB_ICONERROR | MB_SETFOREGROUND);
     return 1;
   }

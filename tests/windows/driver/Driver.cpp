@@ -250,6 +250,16 @@ void Press(HWND control, WORD key, int modifiers) {
   SendKey(key, modifiers);
 }
 
+void PressInMenu(HWND window, WORD key) {
+  WaitUntil(L"a menu is open", [window] {
+    GUITHREADINFO info = {};
+    info.cbSize = sizeof info;
+    return GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &info) != FALSE &&
+           (info.flags & GUI_INMENUMODE) != 0;
+  });
+  SendKey(key, kNone);
+}
+
 void TypeOver(HWND control, std::wstring_view text) {
   Press(control, VK_HOME);
   Press(control, VK_END, kShift);

@@ -2,8 +2,8 @@
 
 #include <cstdio>
 
-#include "practice/terminal/AboutBox.h"
 #include "practice/terminal/TerminalMenu.h"
+#include "practice/terminal/Texts.h"
 #include "practice/terminal/resources.h"
 #include "tests/windows/driver/Driver.h"
 #include "tests/windows/terminal/PracticeTerminal.h"
@@ -48,7 +48,7 @@ class About : public testing::Test {
   About() {
     PostMessageW(terminal_.window(), WM_COMMAND,
                  static_cast<WPARAM>(practice::terminal::Command::kAbout), 0);
-    box_ = driver::WindowNamed(practice::terminal::kAboutTitle);
+    box_ = driver::WindowNamed(practice::terminal::texts::kAboutTitle);
   }
 
   std::wstring CopiedDiagnostics() const {

@@ -1,12 +1,6 @@
-#include <gmock/gmock.h>
-
 #include <future>
 
-#include "practice/terminal/TerminalMenu.h"
-#include "practice/terminal/TerminalWindow.h"
-#include "tests/windows/driver/Driver.h"
-#include "tests/windows/terminal/Client.h"
-#include "tests/windows/terminal/PracticeTerminal.h"
+#include "tests/windows/terminal/TerminalBench.h"
 
 namespace {
 
@@ -14,7 +8,6 @@ using client::Call;
 using client::ComPtr;
 using client::Failure;
 using client::Variant;
-using practice::terminal::Command;
 using testing::HasSubstr;
 
 std::vector<Variant> One(Variant argument) {
@@ -23,36 +16,7 @@ std::vector<Variant> One(Variant argument) {
   return arguments;
 }
 
-class TerminalWindow : public testing::Test {
- protected:
-  HWND Entry() const { return driver::Item(window_, practice::terminal::kEntryId); }
-  std::wstring Transcript() const {
-    return driver::TextOf(driver::Item(window_, practice::terminal::kTranscriptId));
-  }
-  std::wstring Status() const {
-    return driver::TextOf(driver::Item(window_, practice::terminal::kStatusId));
-  }
-  void Choose(Command command) const {
-    SendMessageW(window_, WM_COMMAND, static_cast<WPARAM>(command), 0);
-  }
-  bool Shows(const std::wstring& text) const {
-    return driver::Holds([&] { return Transcript().find(text) != std::wstring::npos; });
-  }
-  bool Says(const std::wstring& text) const {
-    return driver::Holds([&] { return Status().find(text) != std::wstring::npos; });
-  }
-  void Enter(const std::wstring& entry) const {
-    driver::Type(Entry(), entry);
-    driver::Press(Entry(), VK_RETURN);
-  }
-  static std::wstring Send(const std::wstring& entry) {
-    const auto session = client::Make(L"TerminalSession");
-    return client::TextIn(Call(*session.Get(), L"SendCommand", One(client::Text(entry))));
-  }
-
-  terminal::PracticeTerminal terminal_;
-  HWND window_ = terminal_.window();
-};
+using TerminalWindow = terminal::TerminalBench;
 
 TEST_F(TerminalWindow, SaysThatThisIsPractice) {
   EXPECT_THAT(driver::TextOf(window_), HasSubstr(L"PRACTICE"));
@@ -91,43 +55,10 @@ TEST_F(TerminalWindow, CountsTheObjectsOfScripts) {
   EXPECT_TRUE(Says(L"Objects in use: 0"));
 }
 
-TEST_F(TerminalWindow, TheHostRefusesOneEntryOnDemand) {
-  Choose(Command::kRefuseNext);
-  EXPECT_THAT(Status(), HasSubstr(L"refuses the next entry"));
-  EXPECT_EQ(Send(L"RT"), L"REFUSED: THE TRAINER WANTS IT SO");
-  EXPECT_THAT(Send(L"RT"), HasSubstr(L"SMITH/JOHN MR"));
-}
-
-TEST_F(TerminalWindow, TheSessionIsLostOnDemandAndBackAgain) {
-  Choose(Command::kLoseEntry);
-  EXPECT_THROW(Send(L"RT"), Failure);
-  EXPECT_THAT(Status(), HasSubstr(L"session lost"));
-  Choose(Command::kBehaveWell);
-  EXPECT_THAT(Send(L"RT"), HasSubstr(L"SMITH/JOHN MR"));
-}
-
-TEST_F(TerminalWindow, TheMenuHasTheBookingsFromEasyToHard) {
-  const auto choose = [this](int place) {
-    const int command = static_cast<int>(Command::kFirstBooking) + place;
-    Choose(static_cast<Command>(command));
-  };
-  choose(1);
-  EXPECT_TRUE(Says(L"Booking: first-day   |"));
-  choose(0);
-  EXPECT_TRUE(Says(L"Booking: ordinary   |"));
-}
-
 TEST_F(TerminalWindow, ASecondStartShowsTheRunningOneAndOpensItsBookingThere) {
   EXPECT_EQ(driver::Process(terminal::Program(), L"document-on-its-way").ExitCode(), 0U);
   EXPECT_THAT(Status(), HasSubstr(L"Booking: document-on-its-way"));
   EXPECT_EQ(terminal::Running(), 1);
-}
-
-TEST_F(TerminalWindow, IssuesTheMissingDocument) {
-  driver::Process(terminal::Program(), L"document-on-its-way").ExitCode();
-  EXPECT_EQ(Send(L"RT").find(L",FA "), std::wstring::npos);
-  Choose(Command::kIssueDocument);
-  EXPECT_THAT(Send(L"IR"), HasSubstr(L",FA 117-4012345671"));
 }
 
 TEST_F(TerminalWindow, StaysResponsiveWhileASlowHostAnswersAScript) {
