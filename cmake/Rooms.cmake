@@ -41,9 +41,9 @@ endif()
 if(PTA_COVERAGE)
   add_link_options(--coverage)
   # The rooms' own copies of what their headers define come first: those are counted, and not the
-  # ones that the tests were compiled with.
+  # ones that the tests were compiled with. A room that is named twice is taken once.
   set(CMAKE_CXX_LINK_EXECUTABLE
-      "<CMAKE_CXX_COMPILER> <FLAGS> <CMAKE_CXX_LINK_FLAGS> <LINK_FLAGS> -Wl,--whole-archive <LINK_LIBRARIES> -Wl,--no-whole-archive <OBJECTS> -o <TARGET>")
+      "<CMAKE_CXX_COMPILER> <FLAGS> <CMAKE_CXX_LINK_FLAGS> <LINK_FLAGS> -Wl,--allow-multiple-definition -Wl,--whole-archive <LINK_LIBRARIES> -Wl,--no-whole-archive <OBJECTS> -o <TARGET>")
 endif()
 
 # pta_room(FOLDER [USES FOLDER...]): the sources of one folder, without its subfolders, as a library
