@@ -65,6 +65,39 @@ TEST(UpdateRun, TheQueueIsTakenWithoutTheBlanksAroundIt) {
               testing::Contains(L"ParameterBag.1.7 SetValue(\"strKeyQueNumber\", \"80\")"));
 }
 
+TEST(UpdateRun, TheOfficeIsTakenWithoutTheBlanksAroundIt) {
+  UpdateRunBench bench;
+  bench.dialog.txtQueueingOfficeID.SetText(L"  STOSK08AA ");
+  const Lines calls = bench.Run();
+  EXPECT_THAT(calls, testing::Contains(testing::HasSubstr(L", \"STOSK08AA\")")));
+  EXPECT_THAT(calls, testing::Not(testing::Contains(testing::HasSubstr(L"STOSK08AA "))));
+}
+
+TEST(UpdateRun, TheAirlineIsTakenFromTheDialogWithoutTheBlanksAroundIt) {
+  UpdateRunBench bench;
+  bench.common.mco->strAirlineCode = L"LH";
+  bench.dialog.txtCarrier.SetText(L" SK ");
+  bench.Run();
+  EXPECT_EQ(bench.common.mco->strAirlineCode, L"SK");
+}
+
+TEST(UpdateRun, TheDocumentNumberIsRebuiltFromItsTwoFields) {
+  UpdateRunBench bench;
+  bench.common.mco->strMCONumber = L"220-1111111111";
+  bench.dialog.txtAirlinePrefix.SetText(L" 117 ");
+  bench.dialog.txtMCONumber.SetText(L" 4012345678 ");
+  bench.Run();
+  EXPECT_EQ(bench.common.mco->strMCONumber, L"117-4012345678");
+}
+
+TEST(UpdateRun, TheCommissionIsTakenFromTheDialogWithoutTheBlanksAroundIt) {
+  UpdateRunBench bench;
+  bench.common.mco->strCommission = L"9";
+  bench.dialog.txtCommission.SetText(L" 10 ");
+  bench.Run();
+  EXPECT_EQ(bench.common.mco->strCommission, L"10");
+}
+
 TEST(UpdateRun, AFormOfPaymentOfBlanksIsNotTaken) {
   UpdateRunBench bench;
   bench.common.mco->strFormOfPayment = L"CASH";
@@ -85,6 +118,10 @@ TEST(UpdateRun, LH0CountsAnywhereInTheOfficeID) {
   EXPECT_TRUE(UpdateRunBench().IsLHAfter(L"FRALH0123"));
   EXPECT_TRUE(UpdateRunBench().IsLHAfter(L"LH0FRA123"));
   EXPECT_TRUE(UpdateRunBench().IsLHAfter(L"FRA123LH0"));
+}
+
+TEST(UpdateRun, LHWithoutTheZeroBehindItDoesNotCount) {
+  EXPECT_FALSE(UpdateRunBench().IsLHAfter(L"LHFRA0123"));
 }
 
 TEST(UpdateRun, LH0InLowerCaseDoesNotCount) {

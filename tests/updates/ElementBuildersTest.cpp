@@ -137,6 +137,13 @@ TEST(ElementBuilders, AnOPElementIsDatedTheDayAfterDeparture) {
                    L"16MAR07\""}));
 }
 
+TEST(ElementBuilders, AnOPElementKeepsTheBlanksOfTheStoredText) {
+  BuildersBench bench;
+  bench.settings.strOPText = L" CHECK TICKET ";
+  bench.builders.CreateOPElement();
+  EXPECT_THAT(bench.TakeCalls(), testing::Contains(Set(L"strKeyText", L" CHECK TICKET ")));
+}
+
 TEST(ElementBuilders, AnOPElementWithoutADateIsLeftOutAndTheDateReportedOnce) {
   BuildersBench bench;
   bench.general.strFirstTravelDate = L"15mar07";

@@ -93,6 +93,15 @@ TEST(UpdatePNR, AnAirlineThatDiffersOnlyInCaseIsChanged) {
   EXPECT_EQ(bench.Sent(), Lines{L"5/SK"});
 }
 
+TEST(UpdatePNR, ACommissionThatDiffersOnlyInCaseIsChanged) {
+  ChangesBench bench;
+  bench.mco.strCommission = L"10A";
+  bench.AddTsts(&tst::TSTInfo::strFMElementNumber, &tst::TSTInfo::strFMElementValue, L"10a",
+                {L"6"});
+  bench.changes.UpdatePNR(L"");
+  EXPECT_EQ(bench.Sent(), Lines{L"6/10A"});
+}
+
 TEST(UpdatePNR, AnEmptyAirlineOfTheTSTIsChangedWhenItHasANumber) {
   ChangesBench bench;
   bench.AddTsts(&tst::TSTInfo::strFVElementNumber, &tst::TSTInfo::strFVElementValue, L"", {L"5"});
