@@ -6,8 +6,13 @@
 namespace hostlib::com {
 namespace {
 
-std::vector<TypeInfo> InterfacesOf(const TypeInfo& coclass) {
-  std::vector<TypeInfo> interfaces;
+struct Interfaces {
+  std::vector<TypeInfo> types;
+  std::size_t ofTheObject = 1;  ///< counted from 1
+};
+
+Interfaces InterfacesOf(const TypeInfo& coclass) {
+  Interfaces interfaces;
   const TypeAttributes attributes(coclass);
   for (UINT i = 0; i < attributes->cImplTypes; ++i) {
     INT flags = 0;
@@ -18,12 +23,13 @@ std::vector<TypeInfo> InterfacesOf(const TypeInfo& coclass) {
     if ((flags & IMPLTYPEFLAG_FSOURCE) != 0) continue;
     CheckAnswered(coclass->GetRefTypeOfImplType(i, &reference));
     CheckAnswered(coclass->GetRefTypeInfo(reference, &type));
-    interfaces.push_back(std::move(type));
+    interfaces.types.push_back(std::move(type));
+    if ((flags & IMPLTYPEFLAG_FDEFAULT) != 0) interfaces.ofTheObject = interfaces.types.size();
   }
   return interfaces;
 }
 
-// For a class without a registered id: the coclass whose first interface is the object's.
+// For a class without a registered id: the coclass whose default interface is the object's.
 TypeInfo CoclassWithInterface(ITypeLib& library, const IID& interfaceId) {
   const UINT types = library.GetTypeInfoCount();
   for (UINT i = 0; i < types; ++i) {
@@ -31,8 +37,10 @@ TypeInfo CoclassWithInterface(ITypeLib& library, const IID& interfaceId) {
     TypeInfo type;
     if (!IsAnswered(library.GetTypeInfoType(i, &kind)) || kind != TKIND_COCLASS) continue;
     if (!IsAnswered(library.GetTypeInfo(i, &type))) continue;
-    const std::vector<TypeInfo> interfaces = InterfacesOf(type);
-    if (!interfaces.empty() && TypeAttributes(interfaces.front())->guid == interfaceId) return type;
+    const Interfaces interfaces = InterfacesOf(type);
+    if (interfaces.types.empty()) continue;
+    const TypeInfo& own = interfaces.types[interfaces.ofTheObject - 1];
+    if (TypeAttributes(own)->guid == interfaceId) return type;
   }
   return nullptr;
 }
@@ -62,16 +70,16 @@ TypeLibrary LibraryOf(const TypeInfo& type) {
   return registered == nullptr ? library : registered;
 }
 
-std::vector<TypeInfo> InterfacesOf(IDispatch& object, const CLSID* classId) {
+Interfaces InterfacesOf(IDispatch& object, const CLSID* classId) {
   const TypeInfo type = TypeOf(object);
   if (type == nullptr) return {};
   const TypeLibrary library = LibraryOf(type);
-  if (library == nullptr) return {type};
+  if (library == nullptr) return {{type}};
   TypeInfo coclass = classId == nullptr ? nullptr : FindCoclass(*library.Get(), *classId);
   if (coclass == nullptr) {
     coclass = CoclassWithInterface(*library.Get(), TypeAttributes(type)->guid);
   }
-  return coclass == nullptr ? std::vector<TypeInfo>{type} : InterfacesOf(coclass);
+  return coclass == nullptr ? Interfaces{{type}} : InterfacesOf(coclass);
 }
 
 std::wstring Count(std::size_t number) {
@@ -91,12 +99,16 @@ TypeLibrary TypeLibraryOf(IDispatch& object) { return LibraryOf(TypeOf(object));
 
 ClassBinding::ClassBinding(std::wstring className, IDispatch& object, const CLSID* classId)
     : className_(std::move(className)) {
-  for (const TypeInfo& type : InterfacesOf(object, classId)) interfaces_.emplace_back(type);
+  const Interfaces interfaces = InterfacesOf(object, classId);
+  for (const TypeInfo& type : interfaces.types) interfaces_.emplace_back(type);
+  ofTheObject_ = static_cast<int>(interfaces.ofTheObject);
 }
 
 ClassBinding::ClassBinding(std::wstring className, const TypeInfo& coclass)
     : className_(std::move(className)) {
-  for (const TypeInfo& type : InterfacesOf(coclass)) interfaces_.emplace_back(type);
+  const Interfaces interfaces = InterfacesOf(coclass);
+  for (const TypeInfo& type : interfaces.types) interfaces_.emplace_back(type);
+  ofTheObject_ = static_cast<int>(interfaces.ofTheObject);
 }
 
 const IID* ClassBinding::InterfaceId(int number) const {

@@ -24,6 +24,9 @@ class ClassBinding {
 
   /// Null for an interface that the class does not have. Interfaces count from 1.
   const IID* InterfaceId(int number) const;
+  /// The interface that answers an object's calls by name as it is: the class's default, else the
+  /// first.
+  int InterfaceOfTheObject() const { return ofTheObject_; }
   /// Null when the slot is not there.
   const Member* Find(int interfaceNumber, int slot);
   /// Why the operation can't be used; "" when it can.
@@ -32,6 +35,7 @@ class ClassBinding {
  private:
   std::wstring className_;
   std::vector<InterfaceTable> interfaces_;
+  int ofTheObject_ = 1;
   std::map<std::pair<int, int>, std::optional<Member>> members_;
 };
 

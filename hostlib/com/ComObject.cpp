@@ -45,7 +45,8 @@ Value ComObject::CallMember(int slot, const Arguments& arguments, const Operatio
   const Member member = MemberFor(slot, arguments.size());
   std::vector<Variant> handed;
   for (const Value& argument : arguments) handed.push_back(ToVariant(argument, shared_->library));
-  const Variant answer = InvokeMember(Target(), member, std::move(handed));
+  IDispatch& target = slot == kDefaultMember ? *shared_->object.Get() : Target();
+  const Variant answer = InvokeMember(target, member, std::move(handed));
   return FromVariant(answer.get(), shared_->library,
                      operation != nullptr ? operation->returnedClass : std::wstring_view());
 }
@@ -68,11 +69,10 @@ Member ComObject::MemberFor(int slot, std::size_t arguments) {
 }
 
 IDispatch& ComObject::Target() {
-  // What an object is called through by name is its first interface.
-  if (number_ == 1) return *shared_->object.Get();
+  const ClassBinding& binding = shared_->library.BindingFor(ClassName(), *shared_->object.Get());
+  if (number_ == binding.InterfaceOfTheObject()) return *shared_->object.Get();
   ComPtr<IDispatch>& target = shared_->interfaces[number_];
   if (target == nullptr) {
-    ClassBinding& binding = shared_->library.BindingFor(ClassName(), *shared_->object.Get());
     // Every interface that is called by name begins with these entries.
     CheckAnswered(shared_->object->QueryInterface(*binding.InterfaceId(number_),
                                                   reinterpret_cast<void**>(target.GetAddressOf())));

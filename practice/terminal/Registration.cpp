@@ -1,5 +1,6 @@
 #include "practice/terminal/Registration.h"
 
+#include <algorithm>
 #include <array>
 
 #include "hostlib/com/Owners.h"
@@ -48,6 +49,15 @@ bool IsOurs(HKEY root, const LibraryClass& kind) {
   return Read(root, kClasses + ProgId(kind) + L"\\CLSID") == IdText(kind.id);
 }
 
+/// One of the names is there, and leads to another library.
+bool HasAnothersNames(HKEY root) {
+  const auto kinds = LibraryClasses();
+  return std::any_of(kinds.begin(), kinds.end(), [root](const LibraryClass& kind) {
+    const std::wstring id = Read(root, kClasses + ProgId(kind) + L"\\CLSID");
+    return !id.empty() && id != IdText(kind.id);
+  });
+}
+
 bool IsThere(const std::wstring& path) {
   return GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES;
 }
@@ -86,9 +96,10 @@ std::wstring Registration::CommandLine() const { return L"\"" + program_ + L"\""
 
 bool Registration::Register() const {
   std::wstring path = program_;
-  WriteClasses(HKEY_CURRENT_USER);
+  if (!HasAnothersNames(HKEY_CURRENT_USER)) WriteClasses(HKEY_CURRENT_USER);
   RegisterTypeLibForUser(&types_.library(), path.data(), nullptr);
   if (IsFound()) return true;
+  if (HasAnothersNames(HKEY_LOCAL_MACHINE)) return false;
   WriteClasses(HKEY_LOCAL_MACHINE);
   return SUCCEEDED(RegisterTypeLib(&types_.library(), path.data(), nullptr)) && IsFound();
 }

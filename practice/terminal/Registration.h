@@ -10,7 +10,8 @@ class Registration {
  public:
   explicit Registration(const TypeLibrary& types) : types_(types), program_(ProgramPath()) {}
 
-  /// False when scripts would not come to this program afterwards.
+  /// Leaves the names that another library has taken. False when scripts would not come to this
+  /// program afterwards.
   bool Register() const;
   /// Leaves the names that another library has taken, and what another copy of this program has
   /// registered, as long as that is there.

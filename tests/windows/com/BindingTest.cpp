@@ -86,6 +86,19 @@ TEST_F(Binding, WritesAPropertyWithItsValueNamed) {
   EXPECT_EQ(server->calls.size(), 1U);
 }
 
+TEST_F(Binding, ADefaultInterfaceThatIsNotTheFirstIsCalledAsItIsAndTheFirstIsAskedFor) {
+  const auto server = Install(operations::pnr_element_change::kClass, __uuidof(::TestTurned),
+                              __uuidof(IChangeAnswer));
+  const ComPtr<TestObject> first(new TestObject(nullptr));
+  server->AddInterface(__uuidof(IChange), first);
+  const auto change = Made(L"PnrElementChange");
+  change->Call(7, {Value()});
+  EXPECT_EQ(first->calls, (std::vector<DISPID>{401}));
+  EXPECT_EQ(server->calls, (std::vector<DISPID>{}));
+  change->Interface(2)->Call(8, {Value(L"response")});
+  EXPECT_EQ(server->calls, (std::vector<DISPID>{502}));
+}
+
 TEST_F(Binding, FindsTheSecondInterfacePastWhatTheClassCallsBack) {
   const auto server = InstallChange();
   Made(L"PnrElementChange")->Interface(2)->Call(8, {Value(L"response")});

@@ -51,6 +51,45 @@ std::wstring RegisteredTypes() {
   return result;
 }
 
+/// The library of another maker, registered for the machine by the names that this one has, too.
+class AnothersLibrary : public testing::Test {
+ protected:
+  ~AnothersLibrary() override {
+    RegDeleteTreeW(HKEY_LOCAL_MACHINE, L"Software\\Classes\\Vantel.ScriptGlobal");
+    // As the other tests want it.
+    driver::Process(terminal::Program(), L"/regserver").ExitCode();
+  }
+  static void SetName(const std::wstring& id) {
+    RegSetKeyValueW(HKEY_LOCAL_MACHINE, kName, nullptr, REG_SZ, id.c_str(),
+                    static_cast<DWORD>((id.size() + 1) * sizeof(wchar_t)));
+  }
+  static std::wstring Name() {
+    wchar_t id[64] = L"";
+    DWORD size = sizeof id;
+    RegGetValueW(HKEY_LOCAL_MACHINE, kName, nullptr, RRF_RT_REG_SZ, nullptr, id, &size);
+    return id;
+  }
+
+  static constexpr wchar_t kAnothersId[] = L"{0B7A4A52-6B3C-4D55-8F52-0C6C8C1B7E11}";
+
+ private:
+  static constexpr wchar_t kName[] = L"Software\\Classes\\Vantel.ScriptGlobal\\CLSID";
+};
+
+TEST_F(AnothersLibrary, KeepsItsNamesWhenThePracticeTerminalIsToBeRegistered) {
+  driver::Process(terminal::Program(), L"/unregserver").ExitCode();
+  SetName(kAnothersId);
+  EXPECT_EQ(driver::Process(terminal::Program(), L"/regserver").ExitCode(), 1u);
+  EXPECT_EQ(Name(), kAnothersId);
+}
+
+TEST_F(AnothersLibrary, KeepsItsNamesWhenThePracticeTerminalIsUnregistered) {
+  driver::Process(terminal::Program(), L"/regserver").ExitCode();
+  SetName(kAnothersId);
+  driver::Process(terminal::Program(), L"/unregserver").ExitCode();
+  EXPECT_EQ(Name(), kAnothersId);
+}
+
 /// A second copy of the terminal, in a folder of its own.
 class SecondCopy : public testing::Test {
  protected:
