@@ -14,6 +14,7 @@ namespace practice::terminal {
 namespace {
 
 constexpr int kLongestView = 1'000'000;
+constexpr wchar_t kFirstBooking[] = L"ordinary";
 constexpr UINT_PTR kLookForTheDead = 1;
 constexpr UINT kLookEvery = 500;
 
@@ -60,12 +61,17 @@ TerminalWindow::~TerminalWindow() {
 }
 
 void TerminalWindow::Show(const std::wstring& booking) {
-  if (!running_) server_.life().Hold();
+  const bool isFirst = !running_;
+  if (isFirst) server_.life().Hold();
   running_ = true;
   server_.SetSessionRunning(true);
   ShowWindow(window_, IsIconic(window_) ? SW_RESTORE : SW_SHOW);
   SetForegroundWindow(window_);
-  if (!booking.empty()) OpenBooking(booking);
+  if (!booking.empty()) {
+    OpenBooking(booking);
+  } else if (isFirst) {
+    OpenBooking(kFirstBooking);
+  }
   UpdateStatus();
 }
 

@@ -26,7 +26,8 @@ class TerminalWindow {
   TerminalWindow(const TerminalWindow&) = delete;
   TerminalWindow& operator=(const TerminalWindow&) = delete;
 
-  /// From now on the terminal is running: sessions can be made. Opens the booking, if one is named.
+  /// From now on the terminal is running: sessions can be made. Opens the booking; without one the
+  /// first, unless the terminal has been running, where a booking may be in use.
   void Show(const std::wstring& booking);
 
   /// Has another process's terminal show itself. False when there is none.

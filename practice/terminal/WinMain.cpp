@@ -12,8 +12,6 @@ namespace {
 
 using namespace practice::terminal;
 
-constexpr wchar_t kFirstBooking[] = L"ordinary";
-
 /// COM on this thread, which is the one that shows the windows.
 class Apartment {
  public:
@@ -68,7 +66,7 @@ int Run(const std::wstring& line) {
     return 0;
   }
   if (option == L"EMBEDDING") return Serve(std::nullopt);
-  return Serve(argument.empty() ? kFirstBooking : argument);
+  return Serve(argument);
 }
 
 }  // namespace

@@ -61,6 +61,12 @@ TEST_F(TerminalWindow, ASecondStartShowsTheRunningOneAndOpensItsBookingThere) {
   EXPECT_EQ(terminal::Running(), 1);
 }
 
+TEST_F(TerminalWindow, ASecondStartWithoutABookingLeavesTheOneInUse) {
+  EXPECT_EQ(driver::Process(terminal::Program(), L"document-on-its-way").ExitCode(), 0U);
+  EXPECT_EQ(driver::Process(terminal::Program(), L"").ExitCode(), 0U);
+  EXPECT_THAT(Status(), HasSubstr(L"Booking: document-on-its-way"));
+}
+
 TEST_F(TerminalWindow, StaysResponsiveWhileASlowHostAnswersAScript) {
   Choose(Command::kSlow);
   auto answer = std::async(std::launch::async, [] {
