@@ -31,44 +31,24 @@ class LibraryCheck {
       : library_(library), used_(used) {}
 
   std::vector<std::wstring> Faults() {
-    MakeObjects();
+    std::vector<std::wstring> wrong;
+    for (const Operation& operation : used_) wrong.push_back(WhatIsWrongWith(operation));
+    // Without a single object there is no library or no terminal, which is for the run to find.
+    if (held_.empty()) return {};
     std::vector<std::wstring> faults;
-    if (held_.empty()) return faults;
-    for (const Operation& operation : used_) {
-      const std::wstring fault = FaultOf(operation);
+    for (std::size_t i = 0; i < used_.size(); ++i) {
+      const std::wstring fault = FaultOf(used_[i], wrong[i]);
       if (!fault.empty()) faults.push_back(fault);
     }
     return faults;
   }
 
  private:
-  // One of each class, since a class may be registered and its program or its part of it missing.
-  // A terminal that only serves objects may end with the last of them, and its types with it.
-  void MakeObjects() {
-    for (const Operation& operation : used_) {
-      const std::wstring_view className = operation.object;
-      // Only a terminal with an open session can make one, which is for the run to find.
-      if (className == operations::terminal_session::kClass) continue;
-      if (!held_.contains(className) && !notMade_.contains(className)) MakeObject(className);
+  std::wstring FaultOf(const Operation& operation, const std::wstring& wrong) {
+    if (const std::wstring ofClass = FaultOfClass(operation.object); !ofClass.empty()) {
+      return told_.insert(operation.object).second ? ofClass : std::wstring();
     }
-  }
-
-  void MakeObject(std::wstring_view className) {
-    ComPtr<IDispatch> object;
-    const HRESULT made = library_.MakeObject(className, object);
-    if (SUCCEEDED(made)) {
-      held_.emplace(className, std::move(object));
-    } else {
-      notMade_.emplace(className, made);
-    }
-  }
-
-  std::wstring FaultOf(const Operation& operation) {
-    if (const std::wstring fault = FaultOfClass(operation.object); !fault.empty()) {
-      return told_.insert(operation.object).second ? fault : std::wstring();
-    }
-    const std::wstring fault = WhatIsWrongWith(operation);
-    return fault.empty() ? fault : Words(operation, fault);
+    return wrong.empty() ? wrong : Words(operation, wrong);
   }
 
   std::wstring WhatIsWrongWith(const Operation& operation) {
@@ -88,22 +68,27 @@ class LibraryCheck {
       return std::wstring(className) + L": there is no such object.";
     }
     const auto failure = notMade_.find(className);
-    if (failure == notMade_.end() || IsAnswered(failure->second)) return {};
+    // Only a terminal with an open session can make one, which is for the run to find.
+    if (failure == notMade_.end() || className == operations::terminal_session::kClass) return {};
+    if (IsAnswered(failure->second)) return {};
     return std::wstring(className) + L": no object can be made. " + TextOf(failure->second);
   }
 
-  // Null for a session that can't be made and that no type library seen so far describes.
+  // Null when no type library seen so far describes the class, and no object of it can be made. Of
+  // the others none is made: a library may give some of its objects only to a program at work.
   ClassBinding* BindingOf(std::wstring_view className) {
     if (const auto made = held_.find(className); made != held_.end()) {
       return &library_.BindingFor(className, *made->second.Get());
     }
+    if (notMade_.contains(className)) return nullptr;
     if (ClassBinding* binding = library_.BindingWithoutObject(className)) return binding;
-    if (leftToTheRun_.contains(className)) return nullptr;
     ComPtr<IDispatch> object;
-    if (FAILED(library_.MakeObject(className, object))) {
-      leftToTheRun_.insert(className);
+    const HRESULT made = library_.MakeObject(className, object);
+    if (FAILED(made)) {
+      notMade_.emplace(className, made);
       return nullptr;
     }
+    // A terminal that only serves objects may end with the last of them, and its types with it.
     return &library_.BindingFor(className, *held_.emplace(className, object).first->second.Get());
   }
 
@@ -112,7 +97,6 @@ class LibraryCheck {
   std::map<std::wstring_view, ComPtr<IDispatch>> held_;
   std::map<std::wstring_view, HRESULT> notMade_;
   std::set<std::wstring_view> told_;
-  std::set<std::wstring_view> leftToTheRun_;
 };
 
 std::wstring Message(const std::vector<std::wstring>& faults) {

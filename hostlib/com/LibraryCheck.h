@@ -9,10 +9,11 @@ namespace hostlib::com {
 
 /// Holds every operation that this program uses against the installed library, before the first is
 /// used: throws one LibraryError (kLibraryDoesNotFit) that names each object, slot and operation
-/// that is not there or takes another number of arguments, and each object that can't be made.
-/// Quiet when none at all can be made, and about a session that can't: no library is installed then
-/// or its terminal does not run, which is for the run itself to find. Any other LibraryError says
-/// that the library can't be asked now.
+/// that is not there or takes another number of arguments, and each object that no type library
+/// describes and that can't be made. Makes no more objects than it needs to find the types. Quiet
+/// when none at all can be made, and about a session that can't: no library is installed then or
+/// its terminal does not run, which is for the run itself to find. Any other LibraryError says that
+/// the library can't be asked now.
 void CheckUsedOperations(ComLibrary& library, std::span<const Operation> used = AllOperations());
 
 /// The installed library as a run gets it: held against what the program uses, once, which throws

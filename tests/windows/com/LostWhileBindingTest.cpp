@@ -125,7 +125,9 @@ TEST_P(LostWhileBinding, ARunOnTheCheckedLibraryHasNoObjectForThatReason) {
 TEST_P(LostWhileBinding, AnObjectThatIsNotMadeForItIsNoFaultOfTheLibraryEither) {
   Install(L"ParameterBag", __uuidof(::TestBag), __uuidof(IBag));
   Install(L"TerminalSession", __uuidof(::TestSession), __uuidof(ISession));
-  Install(L"PnrElementChange", __uuidof(::TestChange), __uuidof(IChange));
+  // Not described by the others' types, so that an object of it is needed.
+  constexpr CLSID kElsewhere{0x1, 0x2, 0x3, {4, 5, 6, 7, 8, 9, 10, 11}};
+  Install(L"PnrElementChange", kElsewhere, __uuidof(IChange));
   source_.failures[L"Vantel.PnrElementChange"] = GetParam();
   IsOfTheLink(FailureOf([&] { hostlib::com::CheckUsedOperations(library_, kUsed); }));
 }
