@@ -70,12 +70,17 @@ void EntryLog::Answered(int number, const EntryOperation& operation, const hostl
   }
 }
 
-void EntryLog::Failed(int number, const hostlib::LibraryError& error,
-                      std::chrono::milliseconds time) {
+void EntryLog::Failed(int number, const EntryOperation& operation,
+                      const hostlib::LibraryError& error, std::chrono::milliseconds time) {
   const std::wstring text = FailureText(error);
   switch (error.outcome()) {
     case hostlib::LibraryError::Outcome::kRefused:
-      WriteState(number, kRefused, After(time), text);
+      // A library that hands the host's words over, good or bad, has failed before it had them.
+      if (operation.verdict == Verdict::kByReturning) {
+        WriteState(number, kRefused, After(time), text);
+      } else {
+        WriteState(number, kUnknown, After(time) + L", without an answer", text);
+      }
       break;
     case hostlib::LibraryError::Outcome::kNotSent:
       WriteState(number, kRefused, After(time) + L", it was not sent", text);

@@ -24,7 +24,8 @@ class EntryLog {
   void Answered(int number, const EntryOperation& operation, const hostlib::Value& answer,
                 std::chrono::milliseconds time);
   /// The library answered with a failure, was gone, or went away inside the call.
-  void Failed(int number, const hostlib::LibraryError& error, std::chrono::milliseconds time);
+  void Failed(int number, const EntryOperation& operation, const hostlib::LibraryError& error,
+              std::chrono::milliseconds time);
   /// The call was left in any other way.
   void BrokenOff(int number, std::chrono::milliseconds time);
 

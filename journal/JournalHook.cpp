@@ -62,7 +62,7 @@ Value JournalHook::Send(const EntryOperation& operation, const CallInfo& call,
   } catch (const hostlib::LibraryError& error) {
     Quietly([&] {
       lastFailure_ = FailureText(error);
-      entries_.Failed(number, error, clock_.Ticks() - started);
+      entries_.Failed(number, operation, error, clock_.Ticks() - started);
     });
     throw;
   } catch (...) {

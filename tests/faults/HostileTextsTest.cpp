@@ -18,8 +18,8 @@ constexpr std::wstring_view kPath = L"..\\..\\";
 /// Every source of the product; what the tests and the practice side do is their own business.
 std::vector<std::filesystem::path> ProductSources() {
   std::vector<std::filesystem::path> sources;
-  for (const char* room : {"app", "common", "errors", "fares", "hostlib", "mco", "platform", "pnr",
-                           "settings", "tst", "ui", "updates"}) {
+  for (const char* room : {"app", "common", "errors", "fares", "hostlib", "journal", "mco",
+                           "platform", "pnr", "settings", "tst", "ui", "updates"}) {
     const std::filesystem::path folder = std::filesystem::path(PTA_SOURCE_DIR) / room;
     for (const auto& file : std::filesystem::recursive_directory_iterator(folder)) {
       const auto extension = file.path().extension();

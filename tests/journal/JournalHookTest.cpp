@@ -62,9 +62,19 @@ struct JournalHookTest : testing::Test {
   hostlib::TerminalSession session;
 };
 
-TEST_F(JournalHookTest, CallsAnEntryRefusedThatTheLibraryAnswersWithAFailure) {
+TEST_F(JournalHookTest, CallsAnEntryUnknownForWhichTheLibraryFailsInsteadOfAnswering) {
   SessionThrows(LibraryError::Outcome::kRefused);
   SendFailing();
+  EXPECT_THAT(States(),
+              ElementsAre(L"Entry 1 unknown after 0.000 s, without an answer:",
+                          L"Entries: 1, accepted 0, refused 0, unknown 1", L"Unknown: 1"));
+}
+
+TEST_F(JournalHookTest, CallsAnEntryRefusedWhoseAnswerTheLibraryReadsItselfAndDoesNotFindGood) {
+  scripted.On(operations::terminal_session::kLoadPNR, [](const hostlib::Arguments&) -> Value {
+    throw LibraryError(1, L"", L"", LibraryError::Outcome::kRefused);
+  });
+  EXPECT_THROW(session.LoadPNR(), LibraryError);
   EXPECT_THAT(States(),
               ElementsAre(L"Entry 1 refused after 0.000 s:",
                           L"Entries: 1, accepted 0, refused 1, unknown 0", L"Refused: 1"));

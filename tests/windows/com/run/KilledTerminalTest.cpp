@@ -24,17 +24,25 @@ class BeforeCall : public hostlib::CallHook {
   hostlib::Value OnCall(const hostlib::CallInfo&,
                         const std::function<hostlib::Value()>& proceed) override {
     if (++count_ == call_) action_();
-    return proceed();
+    try {
+      return proceed();
+    } catch (const hostlib::LibraryError&) {
+      if (!failed_) failed_ = std::chrono::steady_clock::now();
+      throw;
+    }
   }
 
   int count() const { return count_; }
   int live() const { return live_; }
+  /// When the first call failed.
+  const std::optional<std::chrono::steady_clock::time_point>& failed() const { return failed_; }
 
  private:
   int call_;
   std::function<void()> action_;
   int count_ = 0;
   int live_ = 0;
+  std::optional<std::chrono::steady_clock::time_point> failed_;
 };
 
 class KilledTerminal : public RunningTerminal {
@@ -56,7 +64,10 @@ class KilledTerminal : public RunningTerminal {
       ADD_FAILURE() << "the agent is stuck: " << common::ToUtf8(stuck.where);
     }
     const auto end = std::chrono::steady_clock::now();
+    // A terminal that dies in a call is noticed when the call fails.
+    if (!killed) killed = hook.failed();
     EXPECT_LT(end - killed.value_or(end), std::chrono::seconds(5));
+    dies_ = killed.has_value();
     EXPECT_EQ(hook.live(), 0);
     for (const faults::Event& event : timeline) {
       if (event.kind != faults::Event::Kind::kBox) continue;
@@ -74,6 +85,7 @@ class KilledTerminal : public RunningTerminal {
 
   practice::RehearsalScene scene_ = run::OrdinaryScene();
   int boxes_ = 0;
+  bool dies_ = false;
 };
 
 TEST_F(KilledTerminal, BeforeAnyCallEndsTheRunWithABoxThatTheRulesName) {
@@ -110,6 +122,7 @@ TEST_F(KilledTerminal, InTheMiddleOfAnyEntryEndsTheRunWithABoxThatTheRulesName) 
       terminal_->DieInEntry(entry);
       RunToTheEnd(0, [] {});
       EXPECT_GT(boxes_, 0);
+      EXPECT_TRUE(dies_);
       EXPECT_FALSE(terminal_->IsRunning());
       terminal_->Kill();
     }

@@ -4,6 +4,7 @@
 #include "journal/win32/WindowsFolder.h"
 #include "tests/windows/driver/Driver.h"
 #include "tests/windows/program/Stage.h"
+#include "ui/win32/resource.h"
 
 namespace driver {
 
@@ -83,14 +84,31 @@ TEST_F(TheJournal, ThatCanNotBeWrittenLeavesTheRunAsItIs) {
   CloseHandle(inItsPlace);
 }
 
+TEST_F(TheJournal, SaysThatAnEntrysOutcomeIsUnknownWhenTheSessionIsLostInIt) {
+  Stage stage;
+  Program& program = stage.Start();
+  const HWND dialog = program.WaitForWindowWith(ID_txtPWCT);
+  WaitForFocus(Item(dialog, ID_txtPTA));
+  stage.terminal().DropSession(true);
+  Click(Item(dialog, ID_cmdOK));
+  WaitUntil(L"the program has ended, every box answered", [&] {
+    if (const HWND box = program.Box()) PostMessageW(box, WM_COMMAND, IDOK, 0);
+    return !program.IsRunning();
+  });
+  // The host took the entry, which nobody was told.
+  EXPECT_NE(stage.PnrAfter().find(L"TK OK/STOSK08AA"), std::wstring::npos);
+  EXPECT_THAT(OnlyJournal(), HasSubstr(", without an answer:\r\n"));
+  EXPECT_THAT(OnlyJournal(), HasSubstr(" Unknown: "));
+  EXPECT_EQ(OnlyJournal().find(" Refused: "), std::string::npos);
+}
+
 // The last one: the system may go on offering what the killed terminal offered.
 TEST_F(TheJournal, SaysWhichEntrysOutcomeIsUnknownWhenTheTerminalIsKilledInIt) {
   Stage stage;
-  stage.SetPace(300);
+  const int before = stage.terminal().EntryCount();
+  stage.terminal().HoldEntry(2, std::chrono::seconds(60));
   Program& program = stage.Start();
-  WaitUntil(L"an entry is on its way", [&] {
-    return folder_.Names().size() == 1 && OnlyJournal().find("Entry 2 by ") != std::string::npos;
-  });
+  WaitUntil(L"the entry has arrived", [&] { return stage.terminal().EntryCount() == before + 2; });
   stage.terminal().Kill();
   WaitUntil(L"the call has broken off",
             [&] { return OnlyJournal().find(", the call broke off:\r\n") != std::string::npos; });
