@@ -41,11 +41,15 @@ void Unregister(const std::wstring& program) {
 
 HWND WaitUntilOpen() {
   HWND window = nullptr;
-  driver::WaitUntil(L"the terminal is open", [&window] {
+  const auto isOpen = [&window] {
     window = FindWindowW(practice::terminal::kTerminalClass, nullptr);
     return window != nullptr && IsWindowVisible(window) && SessionCanBeMade();
-  });
-  return window;
+  };
+  // The first one in a new Wine session waits for Wine's own services.
+  if (driver::Holds(isOpen, std::chrono::seconds(60))) return window;
+  throw driver::DriverError(window == nullptr          ? L"The terminal has no window"
+                            : !IsWindowVisible(window) ? L"The terminal's window is not shown"
+                                                       : L"The terminal makes no session");
 }
 
 PracticeTerminal::PracticeTerminal(const std::wstring& booking)
