@@ -24,6 +24,30 @@ INPUT KeyInput(WORD key, bool up) {
   return input;
 }
 
+/// At a point of the window's client area.
+INPUT MouseInput(HWND window, POINT at, DWORD flags) {
+  ClientToScreen(window, &at);
+  const auto scaled = [](LONG position, int size) {
+    return static_cast<LONG>((static_cast<long long>(position) * 65536 + 32768) / size);
+  };
+  INPUT input = {};
+  input.type = INPUT_MOUSE;
+  input.mi.dx = scaled(at.x, GetSystemMetrics(SM_CXSCREEN));
+  input.mi.dy = scaled(at.y, GetSystemMetrics(SM_CYSCREEN));
+  input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE | flags;
+  return input;
+}
+
+POINT MiddleOf(HWND window) {
+  RECT area = {};
+  GetClientRect(window, &area);
+  return {area.right / 2, area.bottom / 2};
+}
+
+/// False, too, for a button that is gone. The answer comes when the button's program has dealt with
+/// the message before.
+bool IsDown(HWND button) { return (SendMessageW(button, BM_GETSTATE, 0, 0) & BST_PUSHED) != 0; }
+
 void SendKey(WORD key, int modifiers) {
   constexpr std::array kModifierKeys = {std::pair{kShift, VK_SHIFT},
                                         std::pair{kControl, VK_CONTROL}, std::pair{kAlt, VK_MENU}};
@@ -268,27 +292,22 @@ void TypeOver(HWND control, std::wstring_view text) {
 }
 
 void Click(HWND window) {
-  RECT area = {};
-  GetClientRect(window, &area);
-  ClickAt(window, area.right / 2, area.bottom / 2);
+  const POINT middle = MiddleOf(window);
+  ClickAt(window, middle.x, middle.y);
+}
+
+void ClickButton(HWND button) {
+  const POINT middle = MiddleOf(button);
+  Send({MouseInput(button, middle, 0), MouseInput(button, middle, MOUSEEVENTF_LEFTDOWN)});
+  WaitUntil(L"the button is down", [button] { return IsDown(button); });
+  Send({MouseInput(button, middle, MOUSEEVENTF_LEFTUP)});
+  WaitUntil(L"the button has come up", [button] { return !IsDown(button); });
 }
 
 void ClickAt(HWND window, int x, int y) {
-  POINT at = {x, y};
-  ClientToScreen(window, &at);
-  const auto scaled = [](LONG position, int size) {
-    return static_cast<LONG>((static_cast<long long>(position) * 65536 + 32768) / size);
-  };
-  INPUT input = {};
-  input.type = INPUT_MOUSE;
-  input.mi.dx = scaled(at.x, GetSystemMetrics(SM_CXSCREEN));
-  input.mi.dy = scaled(at.y, GetSystemMetrics(SM_CYSCREEN));
-  input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
-  INPUT down = input;
-  down.mi.dwFlags |= MOUSEEVENTF_LEFTDOWN;
-  INPUT up = input;
-  up.mi.dwFlags |= MOUSEEVENTF_LEFTUP;
-  Send({input, down, up});
+  const POINT at = {x, y};
+  Send({MouseInput(window, at, 0), MouseInput(window, at, MOUSEEVENTF_LEFTDOWN),
+        MouseInput(window, at, MOUSEEVENTF_LEFTUP)});
 }
 
 std::wstring ToWide(std::string_view utf8) {

@@ -61,6 +61,10 @@ void PressInMenu(HWND window, WORD key);
 void TypeOver(HWND control, std::wstring_view text);
 /// Clicks into the middle of the window.
 void Click(HWND window);
+/// Presses a button that can be pressed, sees it go down, lets go, and sees it come up: returns
+/// when its program has taken the click, so that what is typed next finds the focus where it
+/// belongs.
+void ClickButton(HWND button);
 /// Clicks at a point of its client area.
 void ClickAt(HWND window, int x, int y);
 

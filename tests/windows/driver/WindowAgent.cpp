@@ -115,7 +115,7 @@ void WindowAgent::Perform(const practice::AgentLine& line) {
       {L"click",
        [&] {
          look_(form_, formName_);
-         Click(Control(name));
+         ClickButton(Control(name));
        }},
       {L"pick", [&] { Pick(Control(name), text); }},
       {L"tick", [&] { Tick(text); }},
