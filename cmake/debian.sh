@@ -5,7 +5,7 @@ say() { printf '== %s\n' "$*"; }
 # install_missing PART...: installs the Debian packages of these parts that are not there yet.
 #   native    compiler, CMake, Ninja, ccache and GoogleTest's sources
 #   windows   the cross compilers, the type library compiler and its headers, Wine with its fonts, a virtual display, ImageMagick
-#   packaging the installer's compiler and zip
+#   packaging the installer's compiler, zip, and what makes web pages of the guides
 #   checks    clang-format
 #   fuzz      clang with its libFuzzer and sanitizers
 #   coverage  gcovr
@@ -20,7 +20,7 @@ install_missing() {
         wanted+=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools libwine-dev
           googletest wine64 fonts-wine xvfb imagemagick util-linux locales)
         ;;
-      packaging) wanted+=(nsis zip git) ;;
+      packaging) wanted+=(nsis zip git cmark-gfm) ;;
       fuzz) wanted+=(clang libclang-rt-14-dev) ;;
       checks) wanted+=(clang-format git) ;;
       coverage) wanted+=(gcovr) ;;

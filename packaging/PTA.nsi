@@ -2,6 +2,7 @@
 ;   VERSION   the program's version
 ;   STAGE     the folder with what is installed: x64, x86, common
 ;   OUTPUT    the installer's own file
+;   PUBLISHER who publishes it
 ; Its switches and exit codes stand in docs/installing.md.
 Unicode true
 Target amd64-unicode
@@ -25,10 +26,13 @@ InstallDir "$LOCALAPPDATA\Programs\PTA"
 InstallDirRegKey HKCU "${UNINSTALL_KEY}" "InstallLocation"
 ShowInstDetails nevershow
 ShowUninstDetails nevershow
+; A file that cannot be written ends the installation; it is not left out in silence.
+AllowSkipFiles off
 
 VIProductVersion "${VERSION}.0"
 VIFileVersion "${VERSION}.0"
 VIAddVersionKey "ProductName" "PTA"
+VIAddVersionKey "CompanyName" "${PUBLISHER}"
 VIAddVersionKey "ProductVersion" "${VERSION}"
 VIAddVersionKey "FileDescription" "PTA - Prepaid Ticket Advice, installer"
 VIAddVersionKey "FileVersion" "${VERSION}"
@@ -54,6 +58,10 @@ Section "-in use"
   !insertmacro StopWhenInUse ""
 SectionEnd
 
+Section "-older version"
+  Call RemoveOlderVersion
+SectionEnd
+
 SectionGroup /e "PTA" SEC_PTA
   Section "64 bit" SEC_X64
     SetOutPath "$INSTDIR"
@@ -75,8 +83,16 @@ Section /o "Practice terminal" SEC_PRACTICE
   SetOutPath "$INSTDIR\pnrs"
   File "${STAGE}/common/pnrs/*"
   SetOutPath "$INSTDIR"
+  ClearErrors
   ExecWait '"$INSTDIR\VantelPractice.exe" /regserver' $0
-  ${If} $0 <> 0
+  ; A program that cannot be started leaves no exit code, and some systems say 0 for it.
+  ${If} ${Errors}
+    StrCpy $0 1
+  ${EndIf}
+  StrCpy $3 $0
+  Call IsRegistered
+  ${If} $3 <> 0
+  ${OrIf} $0 != "yes"
     SetErrorLevel ${EXIT_NOT_REGISTERED}
     MessageBox MB_ICONEXCLAMATION "The practice terminal could not be registered, so that PTA does not find it." /SD IDOK
   ${EndIf}
@@ -88,7 +104,7 @@ Section "-no practice terminal"
   ; It was there before and is not wanted any more.
   ${IfNot} ${SectionIsSelected} ${SEC_PRACTICE}
   ${AndIf} ${FileExists} "$INSTDIR\VantelPractice.exe"
-    !insertmacro RemovePracticeTerminal
+    !insertmacro RemovePracticeTerminal ""
   ${EndIf}
 SectionEnd
 
@@ -102,12 +118,15 @@ Section "-rest"
   SetOutPath "$INSTDIR\docs"
   File /r "${STAGE}/common/docs/*"
   SetOutPath "$INSTDIR"
+  File "${STAGE}/Installed.lst"
   CreateDirectory "$SMPROGRAMS\PTA"
   CreateShortcut "$SMPROGRAMS\PTA\PTA.lnk" "$INSTDIR\PTA_QX.exe"
+  CreateShortcut "$SMPROGRAMS\PTA\Guides.lnk" "$INSTDIR\docs\index.html"
   WriteUninstaller "$INSTDIR\Uninstall.exe"
   CreateShortcut "$SMPROGRAMS\PTA\Uninstall PTA.lnk" "$INSTDIR\Uninstall.exe"
   WriteRegStr HKCU "${UNINSTALL_KEY}" "DisplayName" "PTA"
   WriteRegStr HKCU "${UNINSTALL_KEY}" "DisplayVersion" "${VERSION}"
+  WriteRegStr HKCU "${UNINSTALL_KEY}" "Publisher" "${PUBLISHER}"
   WriteRegStr HKCU "${UNINSTALL_KEY}" "DisplayIcon" "$INSTDIR\PTA_QX.exe"
   WriteRegStr HKCU "${UNINSTALL_KEY}" "InstallLocation" "$INSTDIR"
   WriteRegStr HKCU "${UNINSTALL_KEY}" "UninstallString" '"$INSTDIR\Uninstall.exe"'
@@ -119,6 +138,8 @@ Section "-rest"
   ${EndIf}
   WriteRegDWORD HKCU "${UNINSTALL_KEY}" "NoModify" 1
   WriteRegDWORD HKCU "${UNINSTALL_KEY}" "NoRepair" 1
+  ${GetSize} "$INSTDIR" "/S=0K" $0 $1 $2
+  WriteRegDWORD HKCU "${UNINSTALL_KEY}" "EstimatedSize" $0
 SectionEnd
 
 !insertmacro MUI_FUNCTION_DESCRIPTION_BEGIN
@@ -127,21 +148,23 @@ SectionEnd
   !insertmacro MUI_DESCRIPTION_TEXT ${SEC_PRACTICE} "For training, where no real terminal program is installed: a terminal without a host, and bookings to practise on."
 !insertmacro MUI_FUNCTION_DESCRIPTION_END
 
-; Behind the sections, whose numbers it uses.
+; Behind the sections, whose numbers they use.
 !include "${SOURCE}/packaging/choice.nsh"
+!include "${SOURCE}/packaging/older.nsh"
 
 Section "Uninstall"
   !insertmacro StopWhenInUse "un."
   ${If} ${FileExists} "$INSTDIR\VantelPractice.exe"
-    !insertmacro RemovePracticeTerminal
+    !insertmacro RemovePracticeTerminal "un."
   ${EndIf}
   Call un.RemoveUntouchedSettings
   Delete "$INSTDIR\PTA_QX.sample.ini"
   Delete "$INSTDIR\PTA_QX.exe"
-  !include "${STAGE}/remove-docs.nsh"
-  RMDir "$INSTDIR\docs"
+  !insertmacro RemoveListed "un." "docs"
+  Delete "$INSTDIR\Installed.lst"
   Delete "$INSTDIR\Uninstall.exe"
   Delete "$SMPROGRAMS\PTA\PTA.lnk"
+  Delete "$SMPROGRAMS\PTA\Guides.lnk"
   Delete "$SMPROGRAMS\PTA\Uninstall PTA.lnk"
   RMDir "$SMPROGRAMS\PTA"
   DeleteRegKey HKCU "${UNINSTALL_KEY}"

@@ -1,33 +1,6 @@
 ; Which width, and whether with the practice terminal: by the switches, by what was installed before,
 ; by what is on the machine.
 
-; The server of the script library that is registered, in $0, and in $1 whether only 32-bit programs
-; can load it.
-Function FindLibrary
-  StrCpy $0 ""
-  StrCpy $1 "no"
-  SetRegView 64
-  ReadRegStr $2 HKCR "Vantel.ScriptGlobal\CLSID" ""
-  ${If} $2 == ""
-    Return
-  ${EndIf}
-  ReadRegStr $0 HKCR "CLSID\$2\LocalServer32" ""
-  ${If} $0 == ""
-    ReadRegStr $0 HKCR "CLSID\$2\InprocServer32" ""
-  ${EndIf}
-  ${If} $0 == ""
-    SetRegView 32
-    ReadRegStr $0 HKCR "CLSID\$2\LocalServer32" ""
-    ${If} $0 == ""
-      ReadRegStr $0 HKCR "CLSID\$2\InprocServer32" ""
-      ${If} $0 != ""
-        StrCpy $1 "yes"
-      ${EndIf}
-    ${EndIf}
-    SetRegView 64
-  ${EndIf}
-FunctionEnd
-
 Function WrongSwitch
   MessageBox MB_ICONSTOP "/WIDTH is x64, x86 or auto; /PRACTICE is yes or no." /SD IDOK
   SetErrorLevel ${EXIT_WRONG_SWITCH}

@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
+#include <cwchar>
 #include <regex>
 
 #include "common/Text.h"
@@ -85,6 +88,37 @@ TEST(Messages, OfTheTableOfReportsAreAllThereWithTheirNumbers) {
         << common::ToUtf8(report.name) << ": " << common::ToUtf8(report.words) << " with number "
         << common::ToUtf8(report.number);
   }
+}
+
+/// "Number | As code | heading" of every message with a number, in the order of the numbers.
+std::vector<std::wstring> NumberedMessages() {
+  std::vector<std::pair<int, std::wstring>> numbered;
+  const std::wregex number(LR"(Number (\d+)\.)");
+  for (const Message& message : Messages()) {
+    std::wsmatch match;
+    if (!std::regex_search(message.whole, match, number)) continue;
+    numbered.emplace_back(std::stoi(match[1]), message.heading);
+  }
+  std::stable_sort(numbered.begin(), numbered.end(),
+                   [](const auto& one, const auto& other) { return one.first < other.first; });
+  std::vector<std::wstring> rows;
+  for (const auto& [value, heading] : numbered) {
+    std::array<wchar_t, 16> code = {};
+    std::swprintf(code.data(), code.size(), L"0x%08X", 0x80040000U + static_cast<unsigned>(value));
+    rows.push_back(std::to_wstring(value) + L" | " + code.data() + L" | " + heading);
+  }
+  return rows;
+}
+
+TEST(Messages, WithANumberStandInTheTableByNumber) {
+  const std::wregex row(LR"(\n\| (\d+ \| 0x[0-9A-F]{8} \| )\[([^\]]*)\]\(#)");
+  const std::wstring page = run::ReadProjectFile("docs/messages.md");
+  std::vector<std::wstring> rows;
+  for (std::wsregex_iterator at(page.begin(), page.end(), row), end; at != end; ++at) {
+    rows.push_back((*at)[1].str() + Plain((*at)[2].str()));
+  }
+  EXPECT_GT(rows.size(), 50U);
+  EXPECT_EQ(rows, NumberedMessages());
 }
 
 TEST(Messages, OfWhateverSourceStandInTheAppendixOrTheUserGuide) {

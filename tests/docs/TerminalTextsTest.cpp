@@ -39,6 +39,17 @@ TEST(TerminalTexts, OfOtherSourcesStandInThePracticeGuide) {
   }
 }
 
+// They come to an agent's eyes behind "the library's last error".
+TEST(TerminalTexts, OfThePracticeLibraryStandInThePracticeGuide) {
+  int count = 0;
+  for (const SourceText& text : TextsOfSources({"practice/library"})) {
+    if (!IsWording(text) || IsForNobody(text.text)) continue;
+    EXPECT_TRUE(IsInGuide(text.text)) << text.file << ": " << common::ToUtf8(text.text);
+    ++count;
+  }
+  EXPECT_GT(count, 5);
+}
+
 // A text of one word is no wording to the test above: the sources of the window have none at all.
 TEST(TerminalTexts, OfTheWindowStandInTheTable) {
   for (const SourceText& text : TextsOfSources({"practice/terminal"})) {

@@ -1,5 +1,8 @@
 #include "tests/windows/package/Machine.h"
 
+#include <objbase.h>
+#include <shlobj.h>
+
 #include <algorithm>
 #include <array>
 #include <cstdio>
@@ -97,6 +100,25 @@ void RemoveTree(const std::wstring& folder) {
   std::filesystem::remove_all(folder, ignored);
 }
 
+std::wstring ShortcutTarget(const std::wstring& path) {
+  std::array<wchar_t, MAX_PATH> target = {};
+  CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+  IShellLinkW* link = nullptr;
+  IPersistFile* file = nullptr;
+  if (SUCCEEDED(CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkW,
+                                 reinterpret_cast<void**>(&link)))) {
+    if (SUCCEEDED(link->QueryInterface(IID_IPersistFile, reinterpret_cast<void**>(&file)))) {
+      if (SUCCEEDED(file->Load(path.c_str(), STGM_READ))) {
+        link->GetPath(target.data(), static_cast<int>(target.size()), nullptr, 0);
+      }
+      file->Release();
+    }
+    link->Release();
+  }
+  CoUninitialize();
+  return target.data();
+}
+
 std::wstring UserValue(const std::wstring& key, const wchar_t* name) {
   std::array<wchar_t, 512> value = {};
   DWORD bytes = sizeof(value);
@@ -105,6 +127,13 @@ std::wstring UserValue(const std::wstring& key, const wchar_t* name) {
     return {};
   }
   return value.data();
+}
+
+DWORD UserNumber(const std::wstring& key, const wchar_t* name) {
+  DWORD value = 0;
+  DWORD bytes = sizeof(value);
+  RegGetValueW(HKEY_CURRENT_USER, key.c_str(), name, RRF_RT_REG_DWORD, nullptr, &value, &bytes);
+  return value;
 }
 
 std::vector<std::wstring> RegistryBelow(HKEY root, const std::wstring& key) {

@@ -21,8 +21,13 @@ bool Exists(const std::wstring& path);
 std::vector<std::wstring> FilesIn(const std::wstring& folder);
 void RemoveTree(const std::wstring& folder);
 
+/// Where a shortcut leads.
+std::wstring ShortcutTarget(const std::wstring& path);
+
 /// A text value of the user's registry; "" when there is none.
 std::wstring UserValue(const std::wstring& key, const wchar_t* name);
+/// A number of the user's registry; 0 when there is none.
+DWORD UserNumber(const std::wstring& key, const wchar_t* name);
 /// Every key and value below it, one a line, sorted.
 std::vector<std::wstring> RegistryBelow(HKEY root, const std::wstring& key);
 
