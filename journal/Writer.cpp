@@ -53,9 +53,7 @@ Writer::Writer(Folder& folder, const Clock& clock)
     : folder_(folder), clock_(clock), start_(clock.Now()) {}
 
 void Writer::Open(std::wstring_view version) {
-  for (int number = 1; file_ == nullptr && number <= kMostOfOneName; ++number) {
-    file_ = folder_.CreateNew(FileName(start_, {}, number));
-  }
+  Named({}, [this](std::wstring_view name) { return folder_.CreateNew(name, file_); });
   std::wstring heading = L"PTA_QX ";
   heading.append(version).append(kLineEnd);
   heading.append(L"Run of ").append(DayText(start_.day)).append(kLineEnd).append(kLineEnd);
@@ -83,18 +81,25 @@ void Writer::Secure() {
 void Writer::NameAfter(std::wstring_view locator) {
   if (!locator_.empty() || file_ == nullptr) return;
   locator_ = LocatorForName(locator);
-  if (!locator_.empty()) named_ = Rename();
+  if (!locator_.empty()) Rename();
 }
 
 void Writer::Finish() {
-  if (!locator_.empty() && !named_) named_ = Rename();
+  if (!locator_.empty() && !named_) Rename();
 }
 
-bool Writer::Rename() {
-  for (int number = 1; number <= kMostOfOneName; ++number) {
-    if (file_->Rename(FileName(start_, locator_, number))) return true;
+void Writer::Rename() {
+  named_ = Named(locator_, [this](std::wstring_view name) { return file_->Rename(name); });
+}
+
+// A folder out of reach may take seconds to say so: it is asked once.
+template <typename Try>
+bool Writer::Named(std::wstring_view locator, const Try& tryName) const {
+  Naming naming = Naming::kTaken;
+  for (int number = 1; naming == Naming::kTaken && number <= kMostOfOneName; ++number) {
+    naming = tryName(FileName(start_, locator, number));
   }
-  return false;
+  return naming == Naming::kDone;
 }
 
 // One write a line: two programs never mix theirs, and no line is there by halves.

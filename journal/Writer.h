@@ -31,7 +31,10 @@ class Writer {
  private:
   std::wstring Line(std::wstring_view words) const;
   void Append(std::wstring_view text);
-  bool Rename();
+  void Rename();
+  /// Tries the names of this run's file, one after the other, as long as they are taken.
+  template <typename Try>
+  bool Named(std::wstring_view locator, const Try& tryName) const;
 
   Folder& folder_;
   const Clock& clock_;

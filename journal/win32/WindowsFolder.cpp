@@ -12,6 +12,11 @@ bool IsPlainName(std::wstring_view name) {
          name != L"..";
 }
 
+Naming WhyNot(DWORD error) {
+  const bool isTaken = error == ERROR_FILE_EXISTS || error == ERROR_ALREADY_EXISTS;
+  return isTaken ? Naming::kTaken : Naming::kImpossible;
+}
+
 // Others may read, rename and remove the file while it is written, but not write into it.
 constexpr DWORD kShared = FILE_SHARE_READ | FILE_SHARE_DELETE;
 
@@ -30,12 +35,12 @@ class WindowsFile : public File {
   }
   void Flush() override { FlushFileBuffers(handle_); }
   // The handle stays open, so that there is no moment in which a line has nowhere to go.
-  bool Rename(std::wstring_view name) override {
-    if (!IsPlainName(name)) return false;
+  Naming Rename(std::wstring_view name) override {
+    if (!IsPlainName(name)) return Naming::kImpossible;
     std::wstring renamed = folder_ + L"\\" + std::wstring(name);
-    if (!MoveFileExW(path_.c_str(), renamed.c_str(), 0)) return false;
+    if (!MoveFileExW(path_.c_str(), renamed.c_str(), 0)) return WhyNot(GetLastError());
     path_ = std::move(renamed);
-    return true;
+    return Naming::kDone;
   }
 
  private:
@@ -54,14 +59,15 @@ std::wstring WindowsFolder::PathOf(std::wstring_view name) const {
   return path_ + L"\\" + std::wstring(name);
 }
 
-std::unique_ptr<File> WindowsFolder::CreateNew(std::wstring_view name) {
-  if (path_.empty() || !IsPlainName(name)) return nullptr;
+Naming WindowsFolder::CreateNew(std::wstring_view name, std::unique_ptr<File>& file) {
+  if (path_.empty() || !IsPlainName(name)) return Naming::kImpossible;
   SHCreateDirectoryExW(nullptr, path_.c_str(), nullptr);
   std::wstring path = PathOf(name);
   const HANDLE handle = CreateFileW(path.c_str(), FILE_APPEND_DATA | SYNCHRONIZE, kShared, nullptr,
                                     CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
-  if (handle == INVALID_HANDLE_VALUE) return nullptr;
-  return std::make_unique<WindowsFile>(handle, path_, std::move(path));
+  if (handle == INVALID_HANDLE_VALUE) return WhyNot(GetLastError());
+  file = std::make_unique<WindowsFile>(handle, path_, std::move(path));
+  return Naming::kDone;
 }
 
 std::vector<std::wstring> WindowsFolder::Names() const {

@@ -10,7 +10,7 @@ class WindowsFolder : public Folder {
   /// `path` without a backslash at its end; with "" nothing is ever written.
   explicit WindowsFolder(std::wstring path) : path_(std::move(path)) {}
 
-  std::unique_ptr<File> CreateNew(std::wstring_view name) override;
+  Naming CreateNew(std::wstring_view name, std::unique_ptr<File>& file) override;
   std::vector<std::wstring> Names() const override;
   void Remove(std::wstring_view name) override;
 

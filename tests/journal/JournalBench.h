@@ -31,11 +31,15 @@ class FolderInMemory : public Folder {
   bool takesNames = true;
   bool takesText = true;
   int flushes = 0;
+  int namesTried = 0;
 
-  std::unique_ptr<File> CreateNew(std::wstring_view name) override {
-    if (!takesFiles || files.contains(std::wstring(name))) return nullptr;
+  Naming CreateNew(std::wstring_view name, std::unique_ptr<File>& file) override {
+    ++namesTried;
+    if (!takesFiles) return Naming::kImpossible;
+    if (files.contains(std::wstring(name))) return Naming::kTaken;
     files[std::wstring(name)];
-    return std::make_unique<FileInMemory>(*this, std::wstring(name));
+    file = std::make_unique<FileInMemory>(*this, std::wstring(name));
+    return Naming::kDone;
   }
   std::vector<std::wstring> Names() const override {
     std::vector<std::wstring> names;
@@ -62,12 +66,14 @@ class FolderInMemory : public Folder {
       return folder_.takesText;
     }
     void Flush() override { ++folder_.flushes; }
-    bool Rename(std::wstring_view name) override {
-      if (!folder_.takesNames || folder_.files.contains(std::wstring(name))) return false;
+    Naming Rename(std::wstring_view name) override {
+      ++folder_.namesTried;
+      if (!folder_.takesNames) return Naming::kImpossible;
+      if (folder_.files.contains(std::wstring(name))) return Naming::kTaken;
       auto node = folder_.files.extract(name_);
       node.key() = name_ = name;
       folder_.files.insert(std::move(node));
-      return true;
+      return Naming::kDone;
     }
 
    private:

@@ -230,7 +230,7 @@ INSTANTIATE_TEST_SUITE_P(OfPractice, EveryBooking, testing::ValuesIn(run::Bookin
 /// A folder whose every act throws.
 class BrokenFolder : public Folder {
  public:
-  std::unique_ptr<File> CreateNew(std::wstring_view) override { throw std::bad_alloc(); }
+  Naming CreateNew(std::wstring_view, std::unique_ptr<File>&) override { throw std::bad_alloc(); }
   std::vector<std::wstring> Names() const override { throw std::runtime_error("no names"); }
   void Remove(std::wstring_view) override { throw 1; }
 };
@@ -240,12 +240,13 @@ class BrokenFile : public File {
  public:
   bool Append(std::string_view) override { throw std::bad_alloc(); }
   void Flush() override { throw std::bad_alloc(); }
-  bool Rename(std::wstring_view) override { throw std::bad_alloc(); }
+  Naming Rename(std::wstring_view) override { throw std::bad_alloc(); }
 };
 class FolderOfBrokenFiles : public FolderInMemory {
  public:
-  std::unique_ptr<File> CreateNew(std::wstring_view) override {
-    return std::make_unique<BrokenFile>();
+  Naming CreateNew(std::wstring_view, std::unique_ptr<File>& file) override {
+    file = std::make_unique<BrokenFile>();
+    return Naming::kDone;
   }
 };
 

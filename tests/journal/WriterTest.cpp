@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "journal/FileName.h"
 #include "journal/Writer.h"
 #include "tests/journal/JournalBench.h"
 
@@ -87,6 +88,29 @@ TEST_F(WriterTest, TakesTheNextNumberWhenANameIsTaken) {
   EXPECT_TRUE(folder.files.contains(L"PTA_2007-02-20_133700_ABC123-2.txt"));
   EXPECT_EQ(folder.files[L"PTA_2007-02-20_133700.txt"], "1");
   EXPECT_EQ(folder.files[L"PTA_2007-02-20_133700_ABC123.txt"], "2");
+}
+
+TEST_F(WriterTest, AsksAFolderOutOfReachOnce) {
+  folder.takesFiles = false;
+  writer.Open(L"1.2.3");
+  EXPECT_EQ(folder.namesTried, 1);
+}
+
+TEST_F(WriterTest, AsksOnceForANameThatCanNotBeHadNow) {
+  writer.Open(L"1.2.3");
+  folder.takesNames = false;
+  folder.namesTried = 0;
+  writer.NameAfter(L"ABC123");
+  EXPECT_EQ(folder.namesTried, 1);
+}
+
+TEST_F(WriterTest, GivesUpAfterAHundredNamesThatAreTaken) {
+  for (int number = 1; number <= 100; ++number) {
+    folder.files[FileName(clock.Now(), L"", number)] = "another's";
+  }
+  writer.Open(L"1.2.3");
+  EXPECT_EQ(folder.namesTried, 100);
+  EXPECT_EQ(folder.files.size(), 100u);
 }
 
 TEST_F(WriterTest, IsNotNamedAfterALocatorThatIsNoPlainWord) {

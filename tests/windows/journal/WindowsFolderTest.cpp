@@ -14,6 +14,18 @@ namespace {
 using testing::UnorderedElementsAre;
 
 struct WindowsFolderTest : testing::Test {
+  std::unique_ptr<File> Made(std::wstring_view name) {
+    std::unique_ptr<File> file;
+    EXPECT_EQ(folder.CreateNew(name, file), Naming::kDone);
+    return file;
+  }
+  Naming WhyNotMade(std::wstring_view name) {
+    std::unique_ptr<File> file;
+    const Naming why = folder.CreateNew(name, file);
+    EXPECT_EQ(file, nullptr);
+    return why;
+  }
+
   RealFolder real;
   WindowsFolder folder{real.path()};
 };
@@ -35,12 +47,12 @@ class Held {
 
 TEST_F(WindowsFolderTest, IsMadeWithTheFoldersAboveItWhenTheFirstFileIs) {
   EXPECT_FALSE(std::filesystem::exists(real.path()));
-  EXPECT_NE(folder.CreateNew(L"a.txt"), nullptr);
+  EXPECT_NE(Made(L"a.txt"), nullptr);
   EXPECT_TRUE(std::filesystem::exists(real.path() + L"\\a.txt"));
 }
 
 TEST_F(WindowsFolderTest, HoldsWhatIsAppendedWhileTheFileIsStillOpen) {
-  const auto file = folder.CreateNew(L"a.txt");
+  const auto file = Made(L"a.txt");
   EXPECT_TRUE(file->Append("one\r\n"));
   EXPECT_TRUE(file->Append("två\r\n"));
   file->Flush();
@@ -48,11 +60,11 @@ TEST_F(WindowsFolderTest, HoldsWhatIsAppendedWhileTheFileIsStillOpen) {
 }
 
 TEST_F(WindowsFolderTest, GoesOnInTheSameFileUnderItsNewName) {
-  const auto file = folder.CreateNew(L"a.txt");
+  const auto file = Made(L"a.txt");
   file->Append("one");
-  EXPECT_TRUE(file->Rename(L"b.txt"));
+  EXPECT_EQ(file->Rename(L"b.txt"), Naming::kDone);
   EXPECT_TRUE(file->Append("two"));
-  EXPECT_TRUE(file->Rename(L"c.txt"));
+  EXPECT_EQ(file->Rename(L"c.txt"), Naming::kDone);
   EXPECT_TRUE(file->Append("three"));
   EXPECT_THAT(folder.Names(), UnorderedElementsAre(L"c.txt"));
   EXPECT_EQ(real.Bytes(L"c.txt"), "onetwothree");
@@ -60,23 +72,23 @@ TEST_F(WindowsFolderTest, GoesOnInTheSameFileUnderItsNewName) {
 
 TEST_F(WindowsFolderTest, NeverTakesAFileThatIsThere) {
   real.Put(L"a.txt", "old");
-  EXPECT_EQ(folder.CreateNew(L"a.txt"), nullptr);
-  const auto file = folder.CreateNew(L"b.txt");
-  EXPECT_FALSE(file->Rename(L"a.txt"));
+  EXPECT_EQ(WhyNotMade(L"a.txt"), Naming::kTaken);
+  const auto file = Made(L"b.txt");
+  EXPECT_EQ(file->Rename(L"a.txt"), Naming::kTaken);
   EXPECT_TRUE(file->Append("new"));
   EXPECT_EQ(real.Bytes(L"a.txt"), "old");
   EXPECT_EQ(real.Bytes(L"b.txt"), "new");
 }
 
 TEST_F(WindowsFolderTest, NeverLeavesTheFolder) {
-  const auto file = folder.CreateNew(L"a.txt");
+  const auto file = Made(L"a.txt");
   file->Append("one");
   const std::wstring outside = real.root() + L"\\x.txt";
   for (const std::wstring& name :
        {std::wstring(L"..\\..\\x.txt"), std::wstring(L"../../x.txt"), outside,
         std::wstring(L"a.txt:x"), std::wstring(L""), std::wstring(L"..")}) {
-    EXPECT_EQ(folder.CreateNew(name), nullptr) << common::ToUtf8(name);
-    EXPECT_FALSE(file->Rename(name)) << common::ToUtf8(name);
+    EXPECT_EQ(WhyNotMade(name), Naming::kImpossible) << common::ToUtf8(name);
+    EXPECT_EQ(file->Rename(name), Naming::kImpossible) << common::ToUtf8(name);
   }
   std::ofstream{std::filesystem::path(outside)} << "kept";
   folder.Remove(L"..\\..\\x.txt");
@@ -104,21 +116,21 @@ TEST_F(WindowsFolderTest, KeepsAnOldFileThatIsLockedAndRemovesTheOthers) {
 }
 
 TEST_F(WindowsFolderTest, TakesEveryLineWhileSomebodyHoldsTheFileAndItCanNotBeRenamed) {
-  const auto file = folder.CreateNew(L"a.txt");
+  const auto file = Made(L"a.txt");
   file->Append("one");
   {
     const Held held(real, L"a.txt", FILE_SHARE_READ | FILE_SHARE_WRITE);
     ASSERT_TRUE(held.IsOpen());
-    EXPECT_FALSE(file->Rename(L"b.txt"));
+    EXPECT_EQ(file->Rename(L"b.txt"), Naming::kImpossible);
     EXPECT_TRUE(file->Append("two"));
   }
-  EXPECT_TRUE(file->Rename(L"b.txt"));
+  EXPECT_EQ(file->Rename(L"b.txt"), Naming::kDone);
   EXPECT_TRUE(file->Append("three"));
   EXPECT_EQ(real.Bytes(L"b.txt"), "onetwothree");
 }
 
 TEST_F(WindowsFolderTest, LetsNobodyElseWriteIntoTheFile) {
-  const auto file = folder.CreateNew(L"a.txt");
+  const auto file = Made(L"a.txt");
   const HANDLE other = CreateFileW((real.path() + L"\\a.txt").c_str(), GENERIC_WRITE,
                                    FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
                                    OPEN_EXISTING, 0, nullptr);
@@ -127,13 +139,14 @@ TEST_F(WindowsFolderTest, LetsNobodyElseWriteIntoTheFile) {
 
 TEST_F(WindowsFolderTest, ThatCanNotBeMadeTakesNothing) {
   std::ofstream(std::filesystem::path(real.root()) / L"PTA_QX") << "a file in its place";
-  EXPECT_EQ(folder.CreateNew(L"a.txt"), nullptr);
+  EXPECT_EQ(WhyNotMade(L"a.txt"), Naming::kImpossible);
   EXPECT_TRUE(folder.Names().empty());
 }
 
 TEST_F(WindowsFolderTest, WithoutAPathTakesNothing) {
   WindowsFolder nowhere(L"");
-  EXPECT_EQ(nowhere.CreateNew(L"pta-journal-test.txt"), nullptr);
+  std::unique_ptr<File> file;
+  EXPECT_EQ(nowhere.CreateNew(L"pta-journal-test.txt", file), Naming::kImpossible);
   EXPECT_TRUE(nowhere.Names().empty());
 }
 
@@ -166,7 +179,7 @@ class Forbidden {
 TEST_F(WindowsFolderTest, ThatIsReadOnlyTakesNothing) {
   const Forbidden forbidden(real.path());
   if (!forbidden.Works()) GTEST_SKIP() << "this user may write into a read-only folder";
-  EXPECT_EQ(folder.CreateNew(L"a.txt"), nullptr);
+  EXPECT_EQ(WhyNotMade(L"a.txt"), Naming::kImpossible);
 }
 
 TEST_F(WindowsFolderTest, HoldsEveryLineOfALongRun) {
