@@ -1,5 +1,7 @@
 #include "journal/CardDigits.h"
 
+#include <algorithm>
+
 #include "common/Text.h"
 
 namespace journal {
@@ -14,29 +16,17 @@ constexpr std::size_t kWidestGap = 16;
 constexpr std::wstring_view kSeparators =
     L" \t\r\n-.\u00A0\u00AD\u2007\u2009\u202F\u2010\u2011\u2012\u2013\u2014\u2015\u2212";
 
-/// The places of digits that hang together.
-using Places = std::vector<std::size_t>;
-
-struct Chain {
-  Places digits;
-  /// Indices into `digits` at which a group begins, and the one past the last digit.
-  std::vector<std::size_t> borders;
+/// A digit of the text: where it stands, and in which unbroken run of digits.
+struct Digit {
+  std::size_t place;
+  std::size_t group;
 };
-
-bool PassesCheckDigit(std::wstring_view text, const Places& places, std::size_t from,
-                      std::size_t to) {
-  int sum = 0;
-  bool doubled = false;
-  for (std::size_t i = to; i-- > from; doubled = !doubled) {
-    int digit = text[places[i]] - L'0';
-    if (doubled) digit = digit > 4 ? digit * 2 - 9 : digit * 2;
-    sum += digit;
-  }
-  return sum % 10 == 0;
-}
+/// Digits with nothing but separators between them.
+using Chain = std::vector<Digit>;
 
 std::vector<Chain> ChainsIn(std::wstring_view text) {
   std::vector<Chain> chains;
+  std::size_t group = 0;
   std::size_t end = 0;  // past the last digit
   bool joined = false;  // nothing but separators since then
   for (std::size_t i = 0; i < text.size(); ++i) {
@@ -45,13 +35,11 @@ std::vector<Chain> ChainsIn(std::wstring_view text) {
       continue;
     }
     if (!joined) chains.emplace_back();
-    Chain& chain = chains.back();
-    if (!joined || end != i) chain.borders.push_back(chain.digits.size());
-    chain.digits.push_back(i);
+    if (end != i) ++group;
+    chains.back().push_back({i, group});
     end = i + 1;
     joined = true;
   }
-  for (Chain& chain : chains) chain.borders.push_back(chain.digits.size());
   return chains;
 }
 
@@ -60,33 +48,38 @@ class Marker {
   explicit Marker(std::wstring_view text) : text_(text), marks_(text.size(), CardMark::kNone) {}
 
   void Mark(const Chain& chain) {
-    for (std::size_t first = 0; first + 1 < chain.borders.size(); ++first) {
-      const std::size_t from = chain.borders[first];
-      if (chain.borders[first + 1] - from > kLongest) {
-        MarkWithin(chain.digits, from, chain.borders[first + 1]);
-      }
-      for (std::size_t last = first + 1; last < chain.borders.size(); ++last) {
-        if (chain.borders[last] - from > kLongest) break;
-        MarkRun(chain.digits, from, chain.borders[last]);
+    for (std::size_t from = 0; from + kShortest <= chain.size(); ++from) {
+      const std::size_t last = std::min(from + kLongest, chain.size());
+      for (std::size_t to = from + kShortest; to <= last; ++to) {
+        if (MayBeCard(chain, from, to) && PassesCheckDigit(chain, from, to)) {
+          MarkCard(chain, from, to);
+        }
       }
     }
   }
   std::vector<CardMark> Take() { return std::move(marks_); }
 
  private:
-  // A group too long for a card may be one with more behind it.
-  void MarkWithin(const Places& digits, std::size_t from, std::size_t to) {
-    for (; from + kShortest <= to; ++from) {
-      for (std::size_t length = kShortest; length <= kLongest && from + length <= to; ++length) {
-        MarkRun(digits, from, from + length);
-      }
-    }
+  static bool MayBeCard(const Chain& chain, std::size_t from, std::size_t to) {
+    if (chain[from].group == chain[to - 1].group) return true;
+    const bool opens = from == 0 || chain[from - 1].group != chain[from].group;
+    return opens && (to == chain.size() || chain[to].group != chain[to - 1].group);
   }
 
-  void MarkRun(const Places& digits, std::size_t from, std::size_t to) {
-    if (to - from < kShortest || !PassesCheckDigit(text_, digits, from, to)) return;
+  bool PassesCheckDigit(const Chain& chain, std::size_t from, std::size_t to) const {
+    int sum = 0;
+    bool doubled = false;
+    for (std::size_t i = to; i-- > from; doubled = !doubled) {
+      int digit = text_[chain[i].place] - L'0';
+      if (doubled) digit = digit > 4 ? digit * 2 - 9 : digit * 2;
+      sum += digit;
+    }
+    return sum % 10 == 0;
+  }
+
+  void MarkCard(const Chain& chain, std::size_t from, std::size_t to) {
     for (std::size_t i = from; i < to; ++i) {
-      CardMark& mark = marks_[digits[i]];
+      CardMark& mark = marks_[chain[i].place];
       if (to - i > kTailLength) {
         mark = CardMark::kHidden;
       } else if (mark == CardMark::kNone) {

@@ -12,10 +12,11 @@ enum class CardMark : char {
   kTail,    ///< one of its last four, which may be seen
 };
 
-/// A mark for every character. A card number is a run of 13 to 19 digits that passes the check
-/// digit; between its groups there may be blanks, hyphens, points or a line break. It is found
-/// wherever it begins and ends with a group, so behind a line number and before an expiry date,
-/// too. A digit that two such runs share is hidden when either hides it.
+/// A mark for every character. A card number is 13 to 19 digits that pass the check digit: in one
+/// unbroken run, wherever they stand within a longer one, or in groups with blanks, hyphens, points
+/// or a line break between them, where they begin and end with a group; so it is found behind a
+/// line number and before an expiry date, too. A digit that two such numbers share is hidden when
+/// either hides it.
 std::vector<CardMark> MarkCards(std::wstring_view text);
 
 }  // namespace journal
