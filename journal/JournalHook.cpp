@@ -98,7 +98,7 @@ void JournalHook::After(const CallInfo& call, const Value& answer) {
   entries_.Follow(call, answer);
   if (IsMessage(call)) writer_.Write(L"Message closed");
   if (Is(call, operations::pnr_reader::kGetRecordLocator)) {
-    writer_.Write(L"Record locator " + hostlib::Describe(answer));
+    writer_.Write(L"Record locator " + Quoted(answer));
     if (const auto* locator = answer.If<std::wstring>()) writer_.NameAfter(*locator);
   }
   NoteOffice(call, answer);
@@ -110,10 +110,14 @@ void JournalHook::NoteOffice(const CallInfo& call, const Value& answer) {
   constexpr std::size_t kNameAt = 2;
   if (TextAt(call, kNameAt) != kOffice) return;
   if (Is(call, operations::user_settings_store::kGetSetting)) {
-    writer_.Write(L"Office " + hostlib::Describe(answer) + L", as found last");
+    writer_.Write(L"Office " + Quoted(answer) + L", as found last");
   } else if (Is(call, operations::user_settings_store::kSaveSetting)) {
-    writer_.Write(L"Office " + hostlib::Describe(call.arguments.back()) + L", as the host says");
+    writer_.Write(L"Office " + Quoted(call.arguments.back()) + L", as the host says");
   }
+}
+
+std::wstring JournalHook::Quoted(const Value& value) const {
+  return writer_.masking().Masked(hostlib::Describe(value));
 }
 
 void JournalHook::Failed(const CallInfo& call, const hostlib::LibraryError& error) {

@@ -33,6 +33,8 @@ class JournalHook : public hostlib::CallHook {
   void After(const hostlib::CallInfo& call, const hostlib::Value& answer);
   void Failed(const hostlib::CallInfo& call, const hostlib::LibraryError& error);
   void NoteOffice(const hostlib::CallInfo& call, const hostlib::Value& answer);
+  /// A value from elsewhere as it may stand in a line of ours.
+  std::wstring Quoted(const hostlib::Value& value) const;
 
   Writer& writer_;
   const Clock& clock_;

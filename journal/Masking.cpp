@@ -1,6 +1,7 @@
 #include "journal/Masking.h"
 
 #include <algorithm>
+#include <cstdint>
 
 #include "common/Text.h"
 #include "journal/CardDigits.h"
@@ -14,6 +15,10 @@ constexpr std::size_t kShortWord = 4;
 constexpr std::size_t kShortestPart = 4;
 constexpr std::size_t kShortestNumber = 5;
 constexpr std::size_t kTailLength = 4;
+/// A hundred fares with a form of payment each, of three parts, fill a fifth.
+constexpr std::size_t kMostValues = 2000;
+/// Longer values are kept in pieces: how far a text is compared at each of its places.
+constexpr std::size_t kLongestPiece = 32;
 
 bool IsBlank(wchar_t character) {
   return character == L' ' || character == L'\t' || character == L'\r' || character == L'\n' ||
@@ -44,16 +49,9 @@ bool TellsSomething(std::wstring_view part) {
   return part.size() >= kShortestPart && !IsAmount(part);
 }
 
-/// Past the end of the value in the text, which is in upper case; `from` when it does not begin
-/// there.
-std::size_t EndOf(std::wstring_view value, std::wstring_view text, std::size_t from) {
-  std::size_t at = from;
-  for (const wchar_t wanted : value) {
-    while (at < text.size() && IsBlank(text[at])) ++at;
-    if (at == text.size() || text[at] != wanted) return from;
-    ++at;
-  }
-  return at;
+/// The character at that place, or what sorts before every character behind the end.
+std::int64_t At(std::wstring_view value, std::size_t place) {
+  return place < value.size() ? std::int64_t{value[place]} : -1;
 }
 
 bool IsWholeWord(std::wstring_view text, std::size_t from, std::size_t to) {
@@ -74,7 +72,7 @@ std::wstring Replacement(std::wstring_view text, const std::vector<CardMark>& ca
 }  // namespace
 
 void Masking::Declare(std::wstring_view formOfPayment) {
-  Add(formOfPayment);
+  Add(Folded(formOfPayment));
   for (std::size_t from = 0; from < formOfPayment.size();) {
     const std::size_t end =
         std::min(formOfPayment.find_first_of(L"+/", from), formOfPayment.size());
@@ -84,25 +82,49 @@ void Masking::Declare(std::wstring_view formOfPayment) {
   }
 }
 
-void Masking::Add(std::wstring_view value) {
-  std::wstring folded = Folded(value);
-  if (folded.empty() || std::ranges::find(values_, folded) != values_.end()) return;
-  values_.push_back(std::move(folded));
+void Masking::Add(std::wstring_view folded) {
+  // Each piece begins with the last character of the one before, and all are of full length: so
+  // what they mask hangs together, to its end.
+  while (folded.size() > kLongestPiece) {
+    Keep(folded.substr(0, kLongestPiece));
+    folded.remove_prefix(std::min(kLongestPiece - 1, folded.size() - kLongestPiece));
+  }
+  if (!folded.empty()) Keep(folded);
+}
+
+void Masking::Keep(std::wstring_view piece) {
+  const auto place = std::ranges::lower_bound(values_, piece);
+  if (place != values_.end() && *place == piece) return;
+  if (values_.size() == kMostValues) {
+    full_ = true;
+  } else {
+    values_.emplace(place, piece);
+  }
 }
 
 std::size_t Masking::EndOfValue(std::wstring_view text, std::size_t from) const {
   std::size_t longest = from;
   if (IsBlank(text[from])) return longest;
-  for (const std::wstring& value : values_) {
-    if (value.front() != text[from]) continue;
-    const std::size_t end = EndOf(value, text, from);
-    if (end <= longest) continue;
-    if (value.size() >= kShortWord || IsWholeWord(text, from, end)) longest = end;
+  // The values that begin with the `length` characters from there on; the shortest comes first.
+  std::ranges::subrange candidates(values_);
+  std::size_t length = 0;
+  for (std::size_t at = from; at < text.size() && !candidates.empty(); ++at) {
+    if (IsBlank(text[at])) continue;
+    candidates =
+        std::ranges::equal_range(candidates, std::int64_t{text[at]}, {},
+                                 [length](const std::wstring& value) { return At(value, length); });
+    ++length;
+    if (candidates.empty() || candidates.front().size() != length) continue;
+    if (length >= kShortWord || IsWholeWord(text, from, at + 1)) longest = at + 1;
   }
   return longest;
 }
 
 std::wstring Masking::Masked(std::wstring_view text) const {
+  return full_ ? L"<withheld>" : MaskedWords(text);
+}
+
+std::wstring Masking::MaskedWords(std::wstring_view text) const {
   const std::vector<CardMark> cards = MarkCards(text);
   const std::wstring upper = common::UpperCase(text);
   std::wstring masked;

@@ -17,6 +17,22 @@ constexpr std::wstring_view kElementTextKey = L"strKeyText";
 
 constexpr std::wstring_view kDisplayMarks[] = {L"FP ", L"FOP "};
 
+struct Mark {
+  std::size_t at;
+  std::size_t end;
+};
+
+/// Behind the text when there is none.
+Mark NextMark(std::wstring_view text, std::size_t from) {
+  for (std::size_t at = text.find(L'F', from); at < text.size(); at = text.find(L'F', at + 1)) {
+    if (at > 0 && common::IsLetter(text[at - 1])) continue;
+    for (const std::wstring_view mark : kDisplayMarks) {
+      if (text.substr(at).starts_with(mark)) return {at, at + mark.size()};
+    }
+  }
+  return {text.size(), text.size()};
+}
+
 /// "7 CASH" as "CASH": a display may name the element that the value is from.
 std::wstring_view WithoutNumber(std::wstring_view text) {
   const std::size_t digits = std::min(text.find_first_not_of(L"0123456789"), text.size());
@@ -61,13 +77,11 @@ void PaymentWatch::After(const hostlib::CallInfo& call, const hostlib::Value& an
 }
 
 void PaymentWatch::Display(std::wstring_view answer) {
-  for (const std::wstring_view mark : kDisplayMarks) {
-    for (std::size_t at = answer.find(mark); at != answer.npos; at = answer.find(mark, at + 1)) {
-      if (at > 0 && common::IsLetter(answer[at - 1])) continue;
-      const std::size_t from = at + mark.size();
-      const std::size_t end = std::min(answer.find_first_of(L"\r\n,;[", from), answer.size());
-      masking_.Declare(WithoutNumber(answer.substr(from, end - from)));
-    }
+  for (Mark mark = NextMark(answer, 0); mark.at < answer.size();) {
+    const Mark next = NextMark(answer, mark.end);
+    const std::wstring_view value = answer.substr(mark.end, next.at - mark.end);
+    masking_.Declare(WithoutNumber(value.substr(0, value.find_first_of(L"\r\n,;["))));
+    mark = next;
   }
 }
 

@@ -13,7 +13,8 @@ class PaymentWatch {
 
   void Before(const hostlib::CallInfo& call);
   /// An answer of the host that is about to be written down: what it shows as a form of payment, an
-  /// "FP" or "FOP" up to the end of its line or field, was never read by the program yet.
+  /// "FP" or "FOP" up to the end of its line or field or to the next of them, was never read by the
+  /// program yet.
   void Display(std::wstring_view answer);
   void After(const hostlib::CallInfo& call, const hostlib::Value& answer);
 

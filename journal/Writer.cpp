@@ -69,9 +69,8 @@ void Writer::Write(std::wstring_view words, std::wstring_view text) {
   Append(Line(words).append(L":").append(kLineEnd).append(Marked(masking_.Masked(text))));
 }
 
-// The words may hold a name from the booking.
 std::wstring Writer::Line(std::wstring_view words) const {
-  return TimeText(clock_.Now().time) + L" " + Printable(masking_.Masked(words));
+  return TimeText(clock_.Now().time) + L" " + Printable(masking_.MaskedWords(words));
 }
 
 void Writer::Secure() {

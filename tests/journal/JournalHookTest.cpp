@@ -253,6 +253,36 @@ TEST_F(JournalHookTest, MasksAFormOfPaymentThatADisplayShows) {
       << common::ToUtf8(journal);
 }
 
+TEST_F(JournalHookTest, MasksWhatAnEndlessLineShowsAsFormsOfPayment) {
+  std::wstring answer;
+  while (answer.size() < 100'000) answer += L"FP FP FOP GRANT77 FP ";
+  SessionAnswers(answer);
+  const auto started = std::chrono::steady_clock::now();
+  session.SendEntry(L"RT");
+  EXPECT_LT(std::chrono::steady_clock::now() - started, std::chrono::seconds(60));
+  const std::wstring journal = bench.folder.Text();
+  EXPECT_NE(journal.find(L"    | FP FP FOP <payment> FP FP FP FOP <payment> FP "), journal.npos);
+  EXPECT_EQ(journal.find(L"GRANT77"), journal.npos);
+}
+
+TEST_F(JournalHookTest, WithholdsTextsButNoStatesWhenADisplayShowsMoreThanThereIsRoomFor) {
+  std::wstring answer;
+  for (int i = 10'000; i < 20'000; ++i) answer += L"FP VALUE" + std::to_wstring(i) + L"\r\n";
+  SessionAnswers(answer);
+  session.SendEntry(L"RT");
+  scripted.Answer(operations::pnr_reader::kGetRecordLocator, Value(L"VALUE19999"));
+  hostlib::PnrReader(library).GetRecordLocator();
+  hook.Finish();
+  EXPECT_THAT(
+      bench.OwnLines(),
+      ElementsAre(L"Entry 1 by SendEntry:", L"Entry 1 answered after 0.000 s:",
+                  L"Record locator <withheld>", L"Entry 1 accepted, its answer was not judged",
+                  L"Entries: 1, accepted 1, refused 0, unknown 0"));
+  EXPECT_NE(bench.folder.Text().find(L"answered after 0.000 s:\n    | <withheld>\n"),
+            std::wstring::npos);
+  EXPECT_EQ(bench.folder.Text().find(L"VALUE"), std::wstring::npos);
+}
+
 TEST_F(JournalHookTest, TakesOnlyTheSessionsOperationsForEntries) {
   std::vector<std::wstring> names;
   for (const EntryOperation& entry : EntryOperations()) {

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <chrono>
+
 #include "journal/Masking.h"
 
 namespace journal {
@@ -55,6 +57,49 @@ TEST(Masking, HidesTheLongerOfTwoValuesAndWhatTheyShare) {
 
 TEST(Masking, HidesTheRestOfACardOfWhichAPartIsDeclared) {
   EXPECT_EQ(Masked(L"8765387", L"4929876538712343"), L"****<payment>*2343");
+}
+
+TEST(Masking, HidesAValueOfAnyLengthToItsEnd) {
+  for (const std::size_t length : {31u, 32u, 33u, 63u, 64u, 10'000u}) {
+    std::wstring value;
+    while (value.size() < length) value += std::to_wstring(value.size()) + L"X";
+    value.resize(length);
+    EXPECT_EQ(Masked(value, L"CH 7 " + value + L"."), L"CH 7 <payment>.") << length;
+  }
+}
+
+/// "VALUE1001" and so on.
+std::wstring NumberedValue(int number) { return L"VALUE" + std::to_wstring(1000 + number); }
+
+Masking WithValues(int count) {
+  Masking masking;
+  for (int number = 1; number <= count; ++number) masking.Declare(NumberedValue(number));
+  return masking;
+}
+
+TEST(Masking, HidesTwoThousandValues) {
+  EXPECT_EQ(WithValues(2000).Masked(L"A VALUE1001 VALUE3000 VALUE"),
+            L"A <payment> <payment> VALUE");
+}
+
+TEST(Masking, WithholdsEveryTextOnceThereIsNoRoomForAnotherValue) {
+  Masking masking = WithValues(2000);
+  masking.Declare(L"VALUE1001");
+  EXPECT_EQ(masking.Masked(L"plain"), L"plain");
+  masking.Declare(NumberedValue(2001));
+  EXPECT_EQ(masking.Masked(L"plain"), L"<withheld>");
+  EXPECT_EQ(masking.MaskedWords(L"Entry 1 of VALUE1001"), L"Entry 1 of <payment>");
+}
+
+TEST(Masking, TakesNoLongerForManyValuesThatNearlyStandAllOverAText) {
+  Masking masking;
+  for (int number = 1; number <= 2000; ++number) {
+    masking.Declare(std::wstring(20, L'A') + NumberedValue(number));
+  }
+  const std::wstring text(20'000, L'A');
+  const auto started = std::chrono::steady_clock::now();
+  EXPECT_EQ(masking.Masked(text), text);
+  EXPECT_LT(std::chrono::steady_clock::now() - started, std::chrono::seconds(20));
 }
 
 TEST(Masking, TakesAnEmptyValueForNone) {
