@@ -10,6 +10,7 @@ namespace {
 constexpr std::wstring_view kAccepted = L"accepted";
 constexpr std::wstring_view kRefused = L"refused";
 constexpr std::wstring_view kUnknown = L"unknown";
+constexpr std::wstring_view kNotJudged = L"not judged";
 
 std::wstring EntryWords(int number) { return L"Entry " + common::NumberText(number); }
 
@@ -134,7 +135,7 @@ void EntryLog::ReadFlag(const hostlib::CallInfo& call, const hostlib::Value& ans
 
 void EntryLog::Settle() {
   if (!open_) return;
-  WriteState(open_->number, kAccepted, L", its answer was not judged");
+  WriteState(open_->number, kNotJudged, L"");
   open_.reset();
 }
 
@@ -155,6 +156,7 @@ void EntryLog::Count(int number, std::wstring_view state) {
   if (state == kAccepted) ++accepted_;
   if (state == kRefused) refused_.push_back(number);
   if (state == kUnknown) unknown_.push_back(number);
+  if (state == kNotJudged) notJudged_.push_back(number);
   std::wstring step = L"entry " + common::NumberText(number) + L" ";
   writer_.Remember(step.append(state));
 }
@@ -163,9 +165,10 @@ void EntryLog::Finish() {
   Settle();
   writer_.Write(L"Entries: " + common::NumberText(count_) + L", accepted " +
                 common::NumberText(accepted_) + L", refused " + CountText(refused_) +
-                L", unknown " + CountText(unknown_));
+                L", unknown " + CountText(unknown_) + L", not judged " + CountText(notJudged_));
   if (!refused_.empty()) writer_.Write(L"Refused: " + Numbers(refused_));
   if (!unknown_.empty()) writer_.Write(L"Unknown: " + Numbers(unknown_));
+  if (!notJudged_.empty()) writer_.Write(L"Not judged: " + Numbers(notJudged_));
 }
 
 }  // namespace journal

@@ -10,11 +10,11 @@
 namespace journal {
 
 /// The entries of a run: numbers them, writes each before it is sent, its answer afterwards, and
-/// its state: accepted, refused, or unknown when the call broke off.
+/// its state: accepted, refused, unknown when the call broke off, or not judged.
 ///
 /// The library gives most answers as they came from the host; what they mean comes out only when
-/// the program has them read. Until then an entry's state is open; it is settled, at the latest,
-/// when the next entry is written or the run ends.
+/// the program has them read. Until then an entry's state is open; when nothing has settled it
+/// until the next entry is written or the run ends, nobody has judged what the answer says.
 class EntryLog {
  public:
   explicit EntryLog(Writer& writer) : writer_(writer) {}
@@ -56,6 +56,7 @@ class EntryLog {
   int count_ = 0;
   std::vector<int> refused_;
   std::vector<int> unknown_;
+  std::vector<int> notJudged_;
   int accepted_ = 0;
   std::optional<Open> open_;
 };

@@ -65,9 +65,9 @@ struct JournalHookTest : testing::Test {
 TEST_F(JournalHookTest, CallsAnEntryUnknownForWhichTheLibraryFailsInsteadOfAnswering) {
   SessionThrows(LibraryError::Outcome::kRefused);
   SendFailing();
-  EXPECT_THAT(States(),
-              ElementsAre(L"Entry 1 unknown after 0.000 s, without an answer:",
-                          L"Entries: 1, accepted 0, refused 0, unknown 1", L"Unknown: 1"));
+  EXPECT_THAT(States(), ElementsAre(L"Entry 1 unknown after 0.000 s, without an answer:",
+                                    L"Entries: 1, accepted 0, refused 0, unknown 1, not judged 0",
+                                    L"Unknown: 1"));
 }
 
 TEST_F(JournalHookTest, CallsAnEntryRefusedWhoseAnswerTheLibraryReadsItselfAndDoesNotFindGood) {
@@ -75,27 +75,27 @@ TEST_F(JournalHookTest, CallsAnEntryRefusedWhoseAnswerTheLibraryReadsItselfAndDo
     throw LibraryError(1, L"", L"", LibraryError::Outcome::kRefused);
   });
   EXPECT_THROW(session.LoadPNR(), LibraryError);
-  EXPECT_THAT(States(),
-              ElementsAre(L"Entry 1 refused after 0.000 s:",
-                          L"Entries: 1, accepted 0, refused 1, unknown 0", L"Refused: 1"));
+  EXPECT_THAT(States(), ElementsAre(L"Entry 1 refused after 0.000 s:",
+                                    L"Entries: 1, accepted 0, refused 1, unknown 0, not judged 0",
+                                    L"Refused: 1"));
 }
 
 TEST_F(JournalHookTest, CallsAnEntryRefusedThatWasNotSent) {
   SessionThrows(LibraryError::Outcome::kNotSent);
   SendFailing();
-  EXPECT_THAT(States(),
-              ElementsAre(L"Entry 1 refused after 0.000 s, it was not sent:",
-                          L"Entries: 1, accepted 0, refused 1, unknown 0", L"Refused: 1"));
+  EXPECT_THAT(States(), ElementsAre(L"Entry 1 refused after 0.000 s, it was not sent:",
+                                    L"Entries: 1, accepted 0, refused 1, unknown 0, not judged 0",
+                                    L"Refused: 1"));
 }
 
 TEST_F(JournalHookTest, CallsAnEntryUnknownWhoseCallBrokeOff) {
   SessionThrows(LibraryError::Outcome::kInterrupted);
   SendFailing();
   SendFailing();
-  EXPECT_THAT(States(),
-              ElementsAre(L"Entry 1 unknown after 0.000 s, the call broke off:",
-                          L"Entry 2 unknown after 0.000 s, the call broke off:",
-                          L"Entries: 2, accepted 0, refused 0, unknown 2", L"Unknown: 1, 2"));
+  EXPECT_THAT(States(), ElementsAre(L"Entry 1 unknown after 0.000 s, the call broke off:",
+                                    L"Entry 2 unknown after 0.000 s, the call broke off:",
+                                    L"Entries: 2, accepted 0, refused 0, unknown 2, not judged 0",
+                                    L"Unknown: 1, 2"));
 }
 
 TEST_F(JournalHookTest, CallsAnEntryUnknownWhoseCallWasLeftInAnyOtherWay) {
@@ -116,9 +116,10 @@ TEST_F(JournalHookTest, TakesACheckedEntrysOwnWord) {
   scripted.Answers(operations::terminal_session::kSendEntryChecked, {Value(false), Value(true)});
   session.SendEntryChecked(L"IR");
   session.SendEntryChecked(L"IR");
-  EXPECT_THAT(States(),
-              ElementsAre(L"Entry 1 refused after 0.000 s", L"Entry 2 accepted after 0.000 s",
-                          L"Entries: 2, accepted 1, refused 1, unknown 0", L"Refused: 1"));
+  EXPECT_THAT(
+      States(),
+      ElementsAre(L"Entry 1 refused after 0.000 s", L"Entry 2 accepted after 0.000 s",
+                  L"Entries: 2, accepted 1, refused 1, unknown 0, not judged 0", L"Refused: 1"));
 }
 
 /// The queue placement with these two flags in its answer; what was read of them is said by `read`.
@@ -142,7 +143,7 @@ TEST_P(FlagsOfAnAnswer, TellWhatBecameOfTheEntry) {
 }
 
 constexpr auto kRead = L"refused, as the library reads its answer";
-constexpr auto kNotJudged = L"accepted, its answer was not judged";
+constexpr auto kNotJudged = L"not judged";
 INSTANTIATE_TEST_SUITE_P(
     Read, FlagsOfAnAnswer,
     testing::Values(QueueFlags{true, true, {L"blnKeyQuePNR", L"blnKeyQueOn"}, L"accepted"},
@@ -167,7 +168,7 @@ TEST_F(JournalHookTest, SettlesAnEntryBeforeTheNextOneIsWritten) {
   session.SendEntry(L"TQT");
   EXPECT_THAT(bench.OwnLines(),
               ElementsAre(L"Entry 1 by SendEntry:", L"Entry 1 answered after 0.000 s:",
-                          L"Entry 1 accepted, its answer was not judged", L"Entry 2 by SendEntry:",
+                          L"Entry 1 not judged", L"Entry 2 by SendEntry:",
                           L"Entry 2 answered after 0.000 s:"));
 }
 
@@ -276,8 +277,8 @@ TEST_F(JournalHookTest, WithholdsTextsButNoStatesWhenADisplayShowsMoreThanThereI
   EXPECT_THAT(
       bench.OwnLines(),
       ElementsAre(L"Entry 1 by SendEntry:", L"Entry 1 answered after 0.000 s:",
-                  L"Record locator <withheld>", L"Entry 1 accepted, its answer was not judged",
-                  L"Entries: 1, accepted 1, refused 0, unknown 0"));
+                  L"Record locator <withheld>", L"Entry 1 not judged",
+                  L"Entries: 1, accepted 0, refused 0, unknown 0, not judged 1", L"Not judged: 1"));
   EXPECT_NE(bench.folder.Text().find(L"answered after 0.000 s:\n    | <withheld>\n"),
             std::wstring::npos);
   EXPECT_EQ(bench.folder.Text().find(L"VALUE"), std::wstring::npos);

@@ -39,6 +39,8 @@ Lines OwnLinesOf(practice::RehearsalScene scene) {
 
 // The entry that brings the first change.
 constexpr int kFirstChange = 9;
+// "BT", whose answer nobody looks at.
+constexpr int kBackOffice = 14;
 
 std::string Expected(const std::string& name) {
   return common::ToUtf8(run::ReadProjectFile("tests/journal/" + name));
@@ -111,9 +113,17 @@ TEST(JournalOfARun, TellsARefusedEntryByHowTheLibraryReadsItsAnswer) {
   EXPECT_THAT(lines, IsSupersetOf({L"Entry 9 answered after 0.050 s:",
                                    L"Entry 9 refused, as the library reads its answer",
                                    L"Message by ShowError:", L"Message closed", L"Refused: 9",
-                                   L"Entries: 9, accepted 8, refused 1, unknown 0",
+                                   L"Entries: 9, accepted 5, refused 1, unknown 0, not judged 3",
                                    L"Last step: a message of the library",
                                    L"Run ended with exit code 0 after 0.450 s"}));
+}
+
+TEST(JournalOfARun, DoesNotCallAnEntryAcceptedWhoseRefusalTheProgramDoesNotRead) {
+  auto scene = run::OrdinaryScene();
+  scene.prepare = [](practice::Host& host) { host.faults.refusals[kBackOffice] = L"NO"; };
+  EXPECT_THAT(OwnLinesOf(scene),
+              IsSupersetOf({L"Entry 14 not judged", L"Not judged: 4, 6, 7, 14",
+                            L"Entries: 15, accepted 11, refused 0, unknown 0, not judged 4"}));
 }
 
 /// A run that loses its session with its first change.
@@ -153,7 +163,7 @@ TEST(JournalOfARun, EndsWithTheWindowInWhichTheAgentCancelled) {
   scene.agent = L"form frmPTA\nclick cmdCancel\n";
   const Lines lines = OwnLinesOf(scene);
   EXPECT_THAT(lines, IsSupersetOf({L"Window frmWorking shown", L"Window frmPTA shown",
-                                   L"Entries: 8, accepted 8, refused 0, unknown 0",
+                                   L"Entries: 8, accepted 5, refused 0, unknown 0, not judged 3",
                                    L"Last step: window frmPTA"}));
   EXPECT_EQ(lines.back(), L"Run ended with exit code 0 after 0.400 s");
 }
