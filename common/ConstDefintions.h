@@ -27,9 +27,11 @@ inline constexpr int kCritical = 16;
 inline constexpr int kExclamation = 48;
 inline constexpr int kInformation = 64;
 inline constexpr int kOkCancel = 1;
+inline constexpr int kRetryCancel = 5;
 
 // Message box answers.
 inline constexpr int kOk = 1;
 inline constexpr int kCancel = 2;
+inline constexpr int kRetry = 4;
 
 }  // namespace common

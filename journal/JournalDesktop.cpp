@@ -5,6 +5,14 @@
 #include "journal/Quietly.h"
 
 namespace journal {
+namespace {
+
+std::wstring NameOf(int answer) {
+  if (answer == common::kCancel) return L"Cancel";
+  return answer == common::kRetry ? L"Retry" : L"OK";
+}
+
+}  // namespace
 
 void JournalDesktop::Show(ui::Form& form) {
   const bool wasVisible = form.IsVisible();
@@ -41,7 +49,7 @@ int JournalDesktop::ShowBox(std::wstring_view text, int style, std::wstring_view
   const auto shown = clock_.Ticks();
   const int answer = inner_.ShowBox(text, style, title);
   Quietly([&] {
-    const std::wstring name = answer == common::kCancel ? L"Cancel" : L"OK";
+    const std::wstring name = NameOf(answer);
     writer_.Write(L"Box answered " + name + L" after " + Seconds(clock_.Ticks() - shown));
     writer_.Remember(L"a box answered " + name);
   });

@@ -5,21 +5,12 @@
 #include "journal/Quietly.h"
 
 namespace journal {
+namespace {
 
-/// What a run that is written down goes through.
-class RunJournal::Book : public hostlib::Library {
+/// A library before another one, which does everything; the hook sees each call.
+class JournalLibrary : public hostlib::Library {
  public:
-  Book(hostlib::Library& library, ui::Desktop& desktop, const Place& place)
-      : clock_(place.clock),
-        started_(clock_.Ticks()),
-        writer_(place.folder, clock_),
-        fields_(writer_.masking()),
-        hook_(writer_, clock_, fields_),
-        hooked_(library, hook_),
-        desktop_(desktop, writer_, clock_, fields_) {
-    Quietly([&] { RemoveOldFiles(place.folder, clock_.Now().day); });
-    Quietly([&] { writer_.Open(place.version); });
-  }
+  JournalLibrary(hostlib::Library& inner, JournalHook& hook) : hooked_(inner, hook), hook_(hook) {}
 
   hostlib::ObjectPtr Create(std::wstring_view className) override {
     try {
@@ -29,7 +20,30 @@ class RunJournal::Book : public hostlib::Library {
       throw;
     }
   }
+
+ private:
+  hostlib::InterposedLibrary hooked_;
+  JournalHook& hook_;
+};
+
+}  // namespace
+
+/// What a run that is written down goes through.
+class RunJournal::Book {
+ public:
+  Book(ui::Desktop& desktop, const Place& place)
+      : clock_(place.clock),
+        started_(clock_.Ticks()),
+        writer_(place.folder, clock_),
+        fields_(writer_.masking()),
+        hook_(writer_, clock_, fields_),
+        desktop_(desktop, writer_, clock_, fields_) {
+    Quietly([&] { RemoveOldFiles(place.folder, clock_.Now().day); });
+    Quietly([&] { writer_.Open(place.version); });
+  }
+
   ui::Desktop& desktop() { return desktop_; }
+  hostlib::Library& Before(hostlib::Library& library) { return library_.emplace(library, hook_); }
 
   /// The first time only.
   void Close(std::wstring_view words) noexcept {
@@ -50,27 +64,29 @@ class RunJournal::Book : public hostlib::Library {
   Writer writer_;
   PaymentFields fields_;
   JournalHook hook_;
-  hostlib::InterposedLibrary hooked_;
+  std::optional<JournalLibrary> library_;
   JournalDesktop desktop_;
   bool closed_ = false;
 };
 
-std::unique_ptr<RunJournal::Book> RunJournal::Begin(hostlib::Library& library, ui::Desktop& desktop,
+std::unique_ptr<RunJournal::Book> RunJournal::Begin(ui::Desktop& desktop,
                                                     const Place& place) noexcept {
   std::unique_ptr<Book> book;
   Quietly([&] {
-    if (IsWanted(place.platform)) book = std::make_unique<Book>(library, desktop, place);
+    if (IsWanted(place.platform)) book = std::make_unique<Book>(desktop, place);
   });
   return book;
 }
 
-RunJournal::RunJournal(hostlib::Library& library, ui::Desktop& desktop, const Place& place)
-    : book_(Begin(library, desktop, place)),
-      library_(book_ != nullptr ? *book_ : library),
-      desktop_(book_ != nullptr ? book_->desktop() : desktop) {}
+RunJournal::RunJournal(ui::Desktop& desktop, const Place& place)
+    : book_(Begin(desktop, place)), desktop_(book_ != nullptr ? book_->desktop() : desktop) {}
 
 RunJournal::~RunJournal() {
   if (book_ != nullptr) book_->Close(L"Run broken off");
+}
+
+hostlib::Library& RunJournal::Before(hostlib::Library& library) {
+  return book_ != nullptr ? book_->Before(library) : library;
 }
 
 int RunJournal::Ended(int exitCode) noexcept {

@@ -16,19 +16,17 @@
 
 namespace {
 
-/// The program's run against the script library that is installed on this machine.
-int RunOnInstalledLibrary(ui::Desktop& desktop) {
-  const platform::WindowsPlatform machine;
+/// The program's run against the script library that is installed on this machine, or the box that
+/// says why there is none.
+int Run(journal::RunJournal& journal, const platform::Platform& machine) {
+  ui::Desktop& desktop = journal.desktop();
   try {
-    const hostlib::com::Apartment apartment(hostlib::com::AskToTryAgain);
+    const hostlib::com::Apartment apartment(
+        [&desktop] { return hostlib::com::AskToTryAgain(desktop); });
     hostlib::com::InstalledObjects installed;
     hostlib::com::ComLibrary link(installed);
     hostlib::com::CheckedLibrary library(link);
-    const journal::WindowsClock clock;
-    journal::WindowsFolder folder(journal::UsersJournalFolder());
-    journal::RunJournal journal(library, desktop,
-                                {machine, folder, clock, common::FromUtf8(PTA_VERSION_TEXT)});
-    return journal.Ended(app::RunProgram(journal.library(), journal.desktop(), machine));
+    return app::RunProgram(journal.Before(library), desktop, machine);
   } catch (const hostlib::LibraryError& error) {
     desktop.ShowBox(error.description(), common::kCritical, common::kTitle);
     return 1;
@@ -40,5 +38,10 @@ int RunOnInstalledLibrary(ui::Desktop& desktop) {
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, LPWSTR, int) {
   platform::LoadSystemLibrariesOnly();
   ui::WindowsDesktop desktop(instance, L"PTA_QX");
-  return RunOnInstalledLibrary(desktop);
+  const platform::WindowsPlatform machine;
+  const journal::WindowsClock clock;
+  journal::WindowsFolder folder(journal::UsersJournalFolder());
+  journal::RunJournal journal(desktop,
+                              {machine, folder, clock, common::FromUtf8(PTA_VERSION_TEXT)});
+  return journal.Ended(Run(journal, machine));
 }

@@ -66,12 +66,11 @@ Apartment::~Apartment() {
   CoUninitialize();
 }
 
-bool AskToTryAgain() {
-  return MessageBoxW(GetActiveWindow(),
-                     L"The Vantel session is busy and does not take the next step.\n\n"
-                     L"Finish what it is waiting for, then choose Retry. Cancel gives the step up.",
-                     common::kTitle.data(),
-                     MB_RETRYCANCEL | MB_ICONEXCLAMATION | MB_SETFOREGROUND) == IDRETRY;
+bool AskToTryAgain(common::MessageBoxes& boxes) {
+  return boxes.ShowBox(
+             L"The Vantel session is busy and does not take the next step.\r\r"
+             L"Finish what it is waiting for, then choose Retry. Cancel gives the step up.",
+             common::kRetryCancel + common::kExclamation, common::kTitle) == common::kRetry;
 }
 
 }  // namespace hostlib::com

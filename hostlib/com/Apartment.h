@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/MessageBoxes.h"
 #include "hostlib/com/BusyPolicy.h"
 
 namespace hostlib::com {
@@ -15,7 +16,7 @@ class Apartment {
   Apartment& operator=(const Apartment&) = delete;
 };
 
-/// The question as a message box of the system, with Retry and Cancel.
-bool AskToTryAgain();
+/// The question as a message box with Retry and Cancel.
+bool AskToTryAgain(common::MessageBoxes& boxes);
 
 }  // namespace hostlib::com

@@ -98,8 +98,8 @@ struct JournalBench {
     };
     scene.run = [this](hostlib::Library& library, ui::Desktop& desktop,
                        const platform::Platform& machine) {
-      RunJournal journal(library, desktop, Place());
-      return journal.Ended(app::RunProgram(journal.library(), journal.desktop(), machine));
+      RunJournal journal(desktop, Place());
+      return journal.Ended(app::RunProgram(journal.Before(library), journal.desktop(), machine));
     };
   }
 

@@ -67,6 +67,14 @@ TEST_F(JournalDesktopTest, WritesABoxBeforeItIsShownAndItsAnswerAfterwards) {
               ElementsAre(L"Box of style 49:", L"Box answered Cancel after 2.500 s"));
 }
 
+TEST_F(JournalDesktopTest, NamesTheButtonThatTheAgentChose) {
+  inner.answers = {common::kOk, common::kRetry, common::kCancel};
+  for (int box = 0; box < 3; ++box) desktop.ShowBox(L"text", 0, L"");
+  EXPECT_THAT(bench.OwnLines(), testing::IsSupersetOf({L"Box answered OK after 0.000 s",
+                                                       L"Box answered Retry after 0.000 s",
+                                                       L"Box answered Cancel after 0.000 s"}));
+}
+
 TEST_F(JournalDesktopTest, WritesTheWindowsOnce) {
   PaymentForm form;
   desktop.Show(form);

@@ -2,6 +2,7 @@
 
 #include "tests/journal/JournalBench.h"
 #include "tests/run/Scenes.h"
+#include "tests/support/FakeDesktop.h"
 
 // Whole runs and what their journals say.
 namespace journal {
@@ -177,6 +178,19 @@ TEST(JournalOfARun, HoldsTheBoxesWithTheirAnswers) {
             std::wstring::npos);
 }
 
+TEST(JournalOfARun, HoldsTheBoxThatSaysWhyThereIsNoLibrary) {
+  JournalBench bench;
+  support::FakeDesktop desktop;
+  RunJournal journal(desktop, bench.Place());
+  journal.desktop().ShowBox(L"It does not fit", common::kCritical, common::kTitle);
+  EXPECT_EQ(journal.Ended(1), 1);
+  EXPECT_THAT(
+      bench.OwnLines(),
+      ElementsAre(L"Box of style 16:", L"Box answered OK after 0.000 s",
+                  L"Entries: 0, accepted 0, refused 0, unknown 0, not judged 0",
+                  L"Last step: a box answered OK", L"Run ended with exit code 1 after 0.000 s"));
+}
+
 TEST(JournalOfARun, HoldsTheOfficeFoundEarlierAndTheOneThatTheHostSays) {
   EXPECT_THAT(OwnLinesOf(run::OrdinaryScene()), Contains(L"Office \"ARNAG2100\", as found last"));
   auto scene = run::OrdinaryScene();
@@ -270,8 +284,8 @@ TEST(JournalOfARun, ThatThrowsChangesNothing) {
     attended.run = [&](hostlib::Library& library, ui::Desktop& desktop,
                        const platform::Platform& machine) {
       JournalBench bench;
-      RunJournal journal(library, desktop, {bench.platform, *folder, bench.clock, L"1.2.3"});
-      return journal.Ended(app::RunProgram(journal.library(), journal.desktop(), machine));
+      RunJournal journal(desktop, {bench.platform, *folder, bench.clock, L"1.2.3"});
+      return journal.Ended(app::RunProgram(journal.Before(library), journal.desktop(), machine));
     };
     EXPECT_EQ(DeedsOf(attended), without);
   }

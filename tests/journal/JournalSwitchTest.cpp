@@ -30,8 +30,8 @@ TEST(JournalSwitch, SwitchedOffGivesTheRunTheRealLibraryAndDesktop) {
   bench.folder.files[L"PTA_2001-01-01_120000.txt"];
   support::ScriptedLibrary library;
   support::FakeDesktop desktop;
-  RunJournal journal(library, desktop, bench.Place());
-  EXPECT_EQ(&journal.library(), &library);
+  RunJournal journal(desktop, bench.Place());
+  EXPECT_EQ(&journal.Before(library), &library);
   EXPECT_EQ(&journal.desktop(), &desktop);
   EXPECT_EQ(journal.Ended(1), 1);
   // Not even the old ones are touched.

@@ -82,6 +82,7 @@ int WindowsDesktop::ShowBox(std::wstring_view text, int style, std::wstring_view
   const int answer = MessageBoxW(owner, common::WithLineFeeds(text).c_str(), shownTitle.c_str(),
                                  static_cast<UINT>(style) | MB_SETFOREGROUND);
   guard_.Rethrow();
+  if (answer == IDRETRY) return common::kRetry;
   return answer == IDCANCEL ? common::kCancel : common::kOk;
 }
 

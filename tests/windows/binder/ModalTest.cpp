@@ -124,6 +124,23 @@ TEST_F(ModalWindows, ABoxShowsItsLinesAndGivesTheAnswer) {
   EXPECT_EQ(log(), (Lines{L"2", L"1", L"1"}));
 }
 
+TEST_F(ModalWindows, ABoxWithRetryGivesTheAnswer) {
+  form.cmdOK.onClick = [&] {
+    for (int box = 0; box < 3; ++box) {
+      Log(std::to_wstring(
+          desktop.ShowBox(L"busy", common::kRetryCancel, L"Box " + std::to_wstring(box))));
+    }
+  };
+  Run([&](HWND window) {
+    driver::Click(Item(window, ID_cmdOK));
+    driver::Press(Item(WindowNamed(L"Box 0"), IDRETRY), VK_RETURN);
+    driver::Click(Item(WindowNamed(L"Box 1"), IDCANCEL));
+    driver::Press(Item(WindowNamed(L"Box 2"), IDRETRY), VK_ESCAPE);
+    WaitUntil(L"all are answered", [&] { return log().size() == 3; });
+  });
+  EXPECT_EQ(log(), (Lines{L"4", L"2", L"2"}));
+}
+
 TEST_F(ModalWindows, ABoxKeepsEveryFormOff) {
   desktop.Show(inner);
   form.cmdOK.onClick = [&] { desktop.ShowBox(L"Wait", common::kPlain, L"A box"); };

@@ -2,10 +2,8 @@
 #include <windows.h>
 #include <wrl/client.h>
 
-#include <thread>
-
+#include "common/ConstDefintions.h"
 #include "hostlib/com/Apartment.h"
-#include "tests/windows/driver/Driver.h"
 
 // What COM is told when the terminal does not take a call. Wine never asks, so the registered
 // filter is asked here in its place.
@@ -64,29 +62,34 @@ TEST_F(BusyFilter, TakesTheLibrarysCallsIntoTheProgramsObjects) {
             static_cast<DWORD>(SERVERCALL_ISHANDLED));
 }
 
-struct Choice {
-  int button;
-  bool triesAgain;
+/// Shows nothing, and answers as it is told.
+class ToldBoxes : public common::MessageBoxes {
+ public:
+  explicit ToldBoxes(int answer) : answer_(answer) {}
+  int ShowBox(std::wstring_view text, int style, std::wstring_view title) override {
+    seen += std::to_wstring(style) + L" " + std::wstring(title) + L"/" + std::wstring(text);
+    return answer_;
+  }
+  std::wstring seen;
+
+ private:
+  int answer_;
 };
 
-class BusyBox : public testing::TestWithParam<Choice> {};
-
-TEST_P(BusyBox, SaysThatTheSessionIsBusyAndTakesTheAgentsChoice) {
-  std::wstring text;
-  std::thread agent([&] {
-    const HWND box = driver::WindowNamed(L"  PTA Script ");
-    text = driver::BoxText(box);
-    driver::Click(driver::Item(box, GetParam().button));
-  });
-  EXPECT_EQ(hostlib::com::AskToTryAgain(), GetParam().triesAgain);
-  agent.join();
-  EXPECT_EQ(driver::ToUtf8(text),
-            "The Vantel session is busy and does not take the next step.\n\n"
-            "Finish what it is waiting for, then choose Retry. Cancel gives the step up.");
+TEST(BusyBox, SaysThatTheSessionIsBusy) {
+  ToldBoxes boxes(common::kCancel);
+  hostlib::com::AskToTryAgain(boxes);
+  EXPECT_EQ(boxes.seen,
+            L"53   PTA Script /The Vantel session is busy and does not take the next step.\r\r"
+            L"Finish what it is waiting for, then choose Retry. Cancel gives the step up.");
 }
 
-INSTANTIATE_TEST_SUITE_P(RetryOrCancel, BusyBox,
-                         testing::Values(Choice{IDRETRY, true}, Choice{IDCANCEL, false}));
+TEST(BusyBox, TakesTheAgentsChoice) {
+  for (const int answer : {common::kRetry, common::kCancel}) {
+    ToldBoxes boxes(answer);
+    EXPECT_EQ(hostlib::com::AskToTryAgain(boxes), answer == common::kRetry);
+  }
+}
 
 }  // namespace
 }  // namespace com_run

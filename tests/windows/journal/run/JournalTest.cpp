@@ -10,6 +10,7 @@ namespace driver {
 
 namespace {
 
+using testing::EndsWith;
 using testing::HasSubstr;
 
 std::string BytesOf(const std::wstring& path) {
@@ -55,7 +56,8 @@ TEST_F(TheJournal, OfARealRunHasItsEntriesItsStatesAndItsEnd) {
   EXPECT_THAT(journal, HasSubstr("Entry 1 by SendCommand:\r\n    | PV\r\n"));
   EXPECT_THAT(journal, HasSubstr(":\r\n    | QE 80 AT STOSK08AA\r\n"));
   EXPECT_THAT(journal, HasSubstr(" Entry 16 accepted\r\n"));
-  EXPECT_THAT(journal, HasSubstr("Entries: 16, accepted 11, refused 0, unknown 0, not judged 5\r\n"));
+  EXPECT_THAT(journal,
+              HasSubstr("Entries: 16, accepted 11, refused 0, unknown 0, not judged 5\r\n"));
   EXPECT_THAT(journal, HasSubstr("Run ended with exit code 0 after "));
   EXPECT_EQ(journal.find("CASH"), journal.npos);
 }
@@ -100,6 +102,42 @@ TEST_F(TheJournal, SaysThatAnEntrysOutcomeIsUnknownWhenTheSessionIsLostInIt) {
   EXPECT_THAT(OnlyJournal(), HasSubstr(", without an answer:\r\n"));
   EXPECT_THAT(OnlyJournal(), HasSubstr(" Unknown: "));
   EXPECT_EQ(OnlyJournal().find(" Refused: "), std::string::npos);
+}
+
+TEST_F(TheJournal, OfAProgramKilledInAnEntryEndsWithThatEntryAsItWasSent) {
+  Stage stage;
+  Program& program = stage.Start();
+  const HWND dialog = program.WaitForWindowWith(ID_txtPWCT);
+  WaitForFocus(Item(dialog, ID_txtPTA));
+  const int before = stage.terminal().EntryCount();
+  stage.terminal().HoldEntry(1, std::chrono::seconds(60));
+  Click(Item(dialog, ID_cmdOK));
+  WaitUntil(L"the entry has arrived", [&] { return stage.terminal().EntryCount() == before + 1; });
+  program.Kill();
+  const std::string journal = OnlyJournal();
+  stage.terminal().BehaveWell();
+  // No state and no end: whoever reads it knows that this entry is the one to look for.
+  EXPECT_THAT(journal, EndsWith(" Entry 10 by SendEntry:\r\n    | CH 5 OK/STOSK08AA\r\n"));
+  EXPECT_THAT(journal, HasSubstr(" Entry 9 accepted\r\n"));
+}
+
+TEST_F(TheJournal, SaysWhyThereWasNoRunWhenTheLibraryDoesNotFit) {
+  const terminal::Unregistered other;
+  const terminal::Registered misfit(terminal::Program(L"LacksSlot.exe"));
+  Stage stage(nullptr);
+  Program& program = stage.Start();
+  Press(OkButton(program.WaitForBox()), VK_RETURN);
+  EXPECT_EQ(stage.ExitCode(), 1u);
+  EXPECT_THAT(
+      OnlyJournal(),
+      HasSubstr(" Box of style 16:\r\n"
+                "    | The installed Vantel script library is not the one that this program "
+                "needs.\r\n"
+                "    | \r\n"
+                "    | TerminalSession, slot 33 (SendEntryChecked): there is no such "
+                "slot.\r\n"));
+  EXPECT_THAT(OnlyJournal(), HasSubstr(" Box answered OK after "));
+  EXPECT_THAT(OnlyJournal(), HasSubstr(" Run ended with exit code 1 after "));
 }
 
 // The last one: the system may go on offering what the killed terminal offered.
