@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "common/Text.h"
+#include "tests/faults/FormatCalls.h"
 #include "tests/run/Scenes.h"
 
 // What the host says is text and nothing else: no format, no path, no command.
@@ -70,25 +71,37 @@ TEST(HostileTexts, OfTheOfficeNameASectionAndNeverAFile) {
   }
 }
 
-// Whatever is printed or scanned goes by a literal of ours.
-bool HasForeignFormat(const std::wstring& code) {
-  for (const std::wstring_view function : {L"printf(", L"scanf("}) {
-    for (std::size_t at = code.find(function); at != code.npos; at = code.find(function, at + 1)) {
-      const std::size_t quote = code.find(L'"', at);
-      if (quote == code.npos || quote > code.find(L';', at)) return true;
-    }
+TEST(ForeignFormats, AreThoseOfEveryFunctionThatTakesOne) {
+  for (const wchar_t* call :
+       {L"std::printf(answer.c_str()); std::puts(\"\");", L"wsprintfW(text, answer, L\"x\")",
+        L"wsprintfW(text, L\"%s\", answer)", L"StringCchPrintfW(text, 9, answer.c_str())",
+        L"StringCbVPrintfA(text, 9, answer, list)", L"std::snprintf(text, 9, answer, \"%s\")",
+        L"std::snprintf(text, sizeof(text), Own(\"%s\"), answer)", L"std::snprintf(text, 9)",
+        L"_snwprintf_s(text, 9, 9, answer)", L"swscanf(text, answer, L\"%d\")",
+        L"std::vformat(answer, std::make_wformat_args(L\"x\"))", L"std::format(L\"{}\", answer)",
+        L"std::wcsftime(text, 9, answer, &time)", L"stream << std::put_time(&time, answer)",
+        L"FormatMessageW(FORMAT_MESSAGE_FROM_STRING, answer, 0, 0, text, 9, nullptr)",
+        L"GetDateFormatW(0, 0, &time, answer, text, 9)"}) {
+    EXPECT_EQ(ForeignFormats(call).size(), 1u) << common::ToUtf8(call);
   }
-  return false;
+}
+
+TEST(ForeignFormats, AreNotLiteralsWhereTheFormatStands) {
+  for (const wchar_t* call :
+       {L"std::snprintf(buffer, sizeof buffer, \"%.*e\", kDigits - 1, std::abs(number))",
+        L"std::swprintf(text, std::size(text), L\"%d, (%d\", One(1, 2), two)",
+        L"GetDateFormatW(0, 0, &time, nullptr, text, 9)", L"pnr.GetPNRInformation(answer)"}) {
+    EXPECT_EQ(ForeignFormats(call), Lines{}) << common::ToUtf8(call);
+  }
 }
 
 TEST(HostileTexts, HaveNoWayToACommandOrToAFormatInTheProduct) {
-  EXPECT_TRUE(HasForeignFormat(L"std::printf(answer.c_str());\nstd::puts(\"\");"));
   const auto sources = ProductSources();
   ASSERT_GT(sources.size(), 100u);
   for (const std::filesystem::path& source : sources) {
     const std::wstring code =
         run::ReadProjectFile(std::filesystem::relative(source, PTA_SOURCE_DIR).generic_string());
-    EXPECT_FALSE(HasForeignFormat(code)) << source;
+    EXPECT_EQ(ForeignFormats(code), Lines{}) << source;
     for (const std::wstring_view command : {L"system(", L"popen(", L"ShellExecute",
                                             L"CreateProcess", L"WinExec", L"execv", L"execl"}) {
       EXPECT_FALSE(common::Contains(code, command)) << source << common::ToUtf8(command);
