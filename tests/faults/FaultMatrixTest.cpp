@@ -6,14 +6,17 @@
 #include <set>
 
 #include "common/Text.h"
-#include "tests/faults/Oracle.h"
+#include "tests/faults/JournalOracle.h"
+#include "tests/journal/JournalBench.h"
 
 // Every call of a run fails in every way that it can, and whatever happens: the boxes are those
 // that the rules name, nothing is sent after an end, the entries explain the PNR, nothing is left.
+// One of the runs is written down, and its journal says what happened.
 namespace faults {
 namespace {
 
 constexpr std::size_t kShownComplaints = 20;
+constexpr std::string_view kWrittenDown = "OfficeAskedOfTheHost";
 
 std::wstring NameOf(Fault fault, const CallSite& site) {
   return L"call " + std::to_wstring(fault.place) + L", " + site.name + L", " +
@@ -24,10 +27,15 @@ std::wstring NameOf(Fault fault, const CallSite& site) {
 class Matrix {
  public:
   explicit Matrix(const RecordedRun& recorded)
-      : scene_(recorded.scene()), replays_(scene_), undisturbed_(Perform(scene_)) {}
+      : isWrittenDown_(recorded.name == kWrittenDown), scene_(recorded.scene()), replays_(scene_) {
+    if (isWrittenDown_) journal_.Attend(scene_);
+    undisturbed_ = PerformOnce({}, {});
+    undisturbedComplaints_ = ComplaintsOn(undisturbed_, {});
+  }
 
+  bool isWrittenDown() const { return isWrittenDown_; }
   const Shown& undisturbed() const { return undisturbed_; }
-  Complaints JudgeUndisturbed() { return Judge(replays_, undisturbed_, undisturbed_, {}); }
+  const Complaints& undisturbedComplaints() const { return undisturbedComplaints_; }
 
   void TryAll() {
     for (std::size_t i = 0; i < undisturbed_.sites.size(); ++i) {
@@ -49,20 +57,38 @@ class Matrix {
     if (asked != shown.timeline.end()) Judged(fault, {.question = asked->question});
   }
 
+  Shown PerformOnce(Fault fault, Cancelling cancelling) {
+    journal_.folder.files.clear();
+    return Perform(scene_, fault, cancelling);
+  }
+
+  Complaints ComplaintsOn(const Shown& shown, Fault fault) {
+    Complaints found = Judge(replays_, undisturbed_, shown, fault);
+    if (isWrittenDown_ && shown.stuck.empty()) {
+      for (std::wstring& more : OnTheJournal(shown, journal_.folder.Text())) {
+        found.push_back(std::move(more));
+      }
+    }
+    return found;
+  }
+
   Shown Judged(Fault fault, Cancelling cancelling) {
     ++cases_;
     ways_.insert(fault.way);
-    Shown shown = Perform(scene_, fault, cancelling);
+    Shown shown = PerformOnce(fault, cancelling);
     const CallSite& site = undisturbed_.sites[static_cast<std::size_t>(fault.place) - 1];
-    for (const std::wstring& complaint : Judge(replays_, undisturbed_, shown, fault)) {
+    for (const std::wstring& complaint : ComplaintsOn(shown, fault)) {
       complaints_.push_back(NameOf(fault, site) + complaint);
     }
     return shown;
   }
 
+  bool isWrittenDown_;
+  journal::JournalBench journal_;
   practice::RehearsalScene scene_;
   Replays replays_;
   Shown undisturbed_;
+  Complaints undisturbedComplaints_;
   int cases_ = 0;
   std::set<Way> ways_;
   Complaints complaints_;
@@ -73,11 +99,12 @@ class FaultMatrix : public testing::TestWithParam<RecordedRun> {};
 TEST_P(FaultMatrix, KeepsEveryPromiseWhicheverCallFails) {
   const auto started = std::chrono::steady_clock::now();
   Matrix matrix(GetParam());
-  ASSERT_EQ(matrix.JudgeUndisturbed(), Complaints{});
+  ASSERT_EQ(matrix.undisturbedComplaints(), Complaints{});
   matrix.TryAll();
   const auto took = std::chrono::steady_clock::now() - started;
   std::cout << "faults injected into " << GetParam().name << ": " << matrix.cases() << " in "
-            << matrix.ways() << " ways at " << matrix.undisturbed().sites.size() << " calls, "
+            << matrix.ways() << " ways at " << matrix.undisturbed().sites.size() << " calls"
+            << (matrix.isWrittenDown() ? ", each with its journal, " : ", ")
             << std::chrono::duration_cast<std::chrono::milliseconds>(took).count() << " ms\n";
   std::wstring shown;
   for (std::size_t i = 0; i < std::min(kShownComplaints, matrix.complaints().size()); ++i) {

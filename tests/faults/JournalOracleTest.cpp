@@ -1,0 +1,91 @@
+#include <gmock/gmock.h>
+
+#include "common/Text.h"
+#include "tests/faults/JournalOracle.h"
+#include "tests/journal/JournalBench.h"
+#include "tests/run/Scenes.h"
+
+// The journal's oracle finds what a journal says wrongly.
+namespace faults {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+/// A run of eight entries at least, with a box at its end.
+struct JournalOracle : testing::Test {
+  JournalOracle() {
+    journal::JournalBench bench;
+    practice::RehearsalScene scene = run::SceneOf("write-closed-queue");
+    bench.Attend(scene);
+    shown = Perform(scene);
+    text = bench.folder.Text();
+  }
+  Complaints WithInstead(std::wstring_view old, std::wstring_view other) const {
+    EXPECT_NE(text.find(old), text.npos);
+    return OnTheJournal(shown, common::Replace(text, old, other));
+  }
+
+  Shown shown;
+  std::wstring text;
+};
+
+TEST_F(JournalOracle, FindsNothingInATrueJournal) {
+  EXPECT_THAT(OnTheJournal(shown, text), IsEmpty());
+}
+
+TEST_F(JournalOracle, FindsAStateThatIsNotTheEntrys) {
+  EXPECT_THAT(WithInstead(L"Entry 3 accepted after", L"Entry 3 unknown after")[0],
+              L"\"unknown after 0.050 s\" is not what happened to RT");
+  EXPECT_THAT(WithInstead(L"Entry 3 accepted after 0.050 s",
+                          L"Entry 3 refused after 0.050 s, it was not sent")[0],
+              L"\"refused after 0.050 s, it was not sent\" is not what happened to RT");
+}
+
+TEST_F(JournalOracle, FindsAnEntryCalledAcceptedThatTheHostRefused) {
+  shown.outcome.entries[2].answer = L"REFUSED: NO";
+  EXPECT_THAT(OnTheJournal(shown, text),
+              ElementsAre(L"\"accepted after 0.050 s\" is not what happened to RT"));
+}
+
+TEST_F(JournalOracle, FindsAnEntryCalledAcceptedWhoseAnswerNeverCame) {
+  for (Event& event : shown.timeline) {
+    if (event.text == L"IR") event.outcome = Event::Outcome::kBrokeOff;
+  }
+  EXPECT_THAT(OnTheJournal(shown, text),
+              ElementsAre(L"\"accepted after 0.050 s\" is not what happened to IR"));
+}
+
+TEST_F(JournalOracle, FindsAMissingState) {
+  EXPECT_THAT(WithInstead(L"Entry 4 not judged", L"Nothing")[0], L"no one state: TQT");
+}
+
+TEST_F(JournalOracle, FindsAnotherText) {
+  EXPECT_THAT(WithInstead(L"    | TQM RT\n", L"    | TQM\n"), ElementsAre(L"another text: TQM\n"));
+}
+
+TEST_F(JournalOracle, FindsAMissingEntry) {
+  shown.timeline.push_back({.kind = Event::Kind::kEntry, .text = L"BT"});
+  EXPECT_THAT(OnTheJournal(shown, text)[0], testing::HasSubstr(L" entries"));
+}
+
+TEST_F(JournalOracle, FindsASummaryThatCountsOtherwise) {
+  EXPECT_THAT(WithInstead(L", refused 1, ", L", refused 0, ")[0],
+              testing::StartsWith(L"no such line: Entries: "));
+  EXPECT_THAT(WithInstead(L"Not judged: 4, ", L"Not judged: "),
+              ElementsAre(testing::StartsWith(L"no such line: Not judged: 4, ")));
+}
+
+TEST_F(JournalOracle, FindsAMissingBoxAndAnotherAnswer) {
+  const auto complaint = ElementsAre(L"the journal has other boxes, or elsewhere");
+  EXPECT_THAT(WithInstead(L"Box of style ", L"Nothing of style "), complaint);
+  EXPECT_THAT(WithInstead(L"Box answered OK ", L"Box answered Cancel "), complaint);
+}
+
+TEST_F(JournalOracle, FindsAnotherBox) {
+  EXPECT_THAT(WithInstead(L"PNR was not Queued", L"PNR was Queued")[0],
+              testing::StartsWith(L"another box: PNR was Queued"));
+}
+
+}  // namespace
+}  // namespace faults
