@@ -1,8 +1,7 @@
 #include <gtest/gtest.h>
 
-#include <chrono>
-
 #include "journal/Masking.h"
+#include "tests/journal/CpuTime.h"
 
 namespace journal {
 namespace {
@@ -97,9 +96,9 @@ TEST(Masking, TakesNoLongerForManyValuesThatNearlyStandAllOverAText) {
     masking.Declare(std::wstring(20, L'A') + NumberedValue(number));
   }
   const std::wstring text(20'000, L'A');
-  const auto started = std::chrono::steady_clock::now();
+  const CpuTime time;
   EXPECT_EQ(masking.Masked(text), text);
-  EXPECT_LT(std::chrono::steady_clock::now() - started, std::chrono::seconds(20));
+  EXPECT_LT(time.Seconds(), 10);
 }
 
 TEST(Masking, TakesAnEmptyValueForNone) {
