@@ -1,5 +1,7 @@
 #include "hostlib/Interposer.h"
 
+#include <algorithm>
+
 namespace hostlib {
 namespace {
 
@@ -16,7 +18,11 @@ class InterposedObject : public Object {
   Value Call(int slot, const Arguments& arguments) override {
     const CallInfo call{ClassName(), interfaceNumber_, slot,
                         FindOperation(ClassName(), interfaceNumber_, slot), arguments};
-    return hook_.OnCall(call, [&] { return Wrapped(inner_->Call(slot, Unwrapped(arguments))); });
+    return hook_.OnCall(call, [&] {
+      const bool handsObjects = std::ranges::any_of(arguments, &Value::IsObject);
+      if (handsObjects) return Wrapped(inner_->Call(slot, Unwrapped(arguments)));
+      return Wrapped(inner_->Call(slot, arguments));
+    });
   }
 
   ObjectPtr Interface(int number) override {

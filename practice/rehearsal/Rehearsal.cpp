@@ -82,6 +82,12 @@ class Stage {
       outcome_.entries.push_back({std::wstring(entry), std::wstring(answer)});
     };
     if (scene.decorate) decorated_ = scene.decorate(plain_);
+    if (scene.decorateBoth) {
+      other_ = std::make_unique<PracticeLibrary>(
+          PracticeLibrary::Collaborators{otherHost_, platform_, ini_, userValues_, desktop_},
+          PracticeLibrary::Options{scene.attachRefused, false});
+      decorated_ = scene.decorateBoth(plain_, *other_);
+    }
   }
 
   void Run() {
@@ -101,7 +107,7 @@ class Stage {
     outcome_.printedText = PrintedText(host_);
     outcome_.backOfficeText = BackOfficeText(host_);
     outcome_.queuesText = QueuesText(host_);
-    outcome_.liveObjects = library_.LiveObjects();
+    outcome_.liveObjects = library_.LiveObjects() + (other_ ? other_->LiveObjects() : 0);
     return std::move(outcome_);
   }
 
@@ -115,6 +121,8 @@ class Stage {
   hostlib::Recorder recorder_;
   hostlib::InterposedLibrary recorded_;
   hostlib::Library& plain_;  ///< what a decorator, if any, stands before
+  Host otherHost_;
+  std::unique_ptr<PracticeLibrary> other_;
   std::unique_ptr<hostlib::Library> decorated_;
   decltype(RehearsalScene::run) run_;
   RehearsalOutcome outcome_;

@@ -34,6 +34,9 @@ struct RehearsalScene {
   std::function<void(Host&)> prepare;
   /// Stands between the program and the library, when given.
   std::function<std::unique_ptr<hostlib::Library>(hostlib::Library&)> decorate;
+  /// The same, with the library of another terminal at hand, in which no session runs.
+  std::function<std::unique_ptr<hostlib::Library>(hostlib::Library&, hostlib::Library& other)>
+      decorateBoth;
   /// Runs the program in the place of app::RunProgram, when given.
   std::function<int(hostlib::Library&, ui::Desktop&, const platform::Platform&)> run;
 };

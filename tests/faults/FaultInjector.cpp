@@ -23,6 +23,14 @@ std::wstring EntryOf(const CallInfo& call) {
   return call.arguments.empty() ? L"RT" : call.arguments[0].Text();
 }
 
+CallSite SiteOfCreation(std::wstring_view className) {
+  CallSite site;
+  site.name = L"new " + std::wstring(className);
+  site.isCreation = true;
+  site.isSession = className == session::kClass;
+  return site;
+}
+
 CallSite SiteOf(const CallInfo& call) {
   CallSite site;
   site.name = std::wstring(call.object) + L"." +
@@ -37,20 +45,23 @@ CallSite SiteOf(const CallInfo& call) {
 }  // namespace
 
 void FaultInjector::BeforeCreation(std::wstring_view className) {
-  CallSite site;
-  site.name = L"new " + std::wstring(className);
-  site.isCreation = true;
-  site.isSession = className == session::kClass;
-  const bool isSession = site.isSession;
-  Note(std::move(site));
-  FailIfDown(className == reporter::kClass, isSession);
-  if (static_cast<int>(sites_.size()) == fault_.place) Strike(nullptr);
+  ++calls_;
+  if (IsUndisturbed()) sites_.push_back(SiteOfCreation(className));
+  if (calls_ == fault_.place && fault_.way == Way::kLibraryReplaced) struck_ = true;
+  if (IsReplaced()) return;
+  FailIfDown(className == reporter::kClass, className == session::kClass);
+  if (calls_ == fault_.place) Strike(nullptr);
+}
+
+Value FaultInjector::OnCallOfTheOther(const CallInfo& call, const std::function<Value()>& proceed) {
+  return call.object == reporter::kClass ? Report(call, proceed) : proceed();
 }
 
 Value FaultInjector::OnCall(const CallInfo& call, const std::function<Value()>& proceed) {
-  Note(SiteOf(call));
+  ++calls_;
   // What stands inside may call on: its places come after.
-  const std::size_t at = sites_.size() - 1;
+  const std::size_t at = sites_.size();
+  if (IsUndisturbed()) sites_.push_back(SiteOf(call));
   const std::size_t entry = timeline_.size();
   if (IsEntry(call)) {
     timeline_.push_back({.kind = Event::Kind::kEntry,
@@ -60,8 +71,7 @@ Value FaultInjector::OnCall(const CallInfo& call, const std::function<Value()>& 
   }
   const Value answer = Perform(call, proceed);
   if (IsEntry(call)) timeline_[entry].outcome = Event::Outcome::kAnswered;
-  // Only an undisturbed run is looked up for what its calls answer.
-  if (fault_.place == 0) {
+  if (IsUndisturbed()) {
     sites_[at].answersObject = answer.IsObject();
     if (!answer.IsObject()) sites_[at].answer = answer;
   }
@@ -69,7 +79,7 @@ Value FaultInjector::OnCall(const CallInfo& call, const std::function<Value()>& 
 }
 
 Value FaultInjector::Perform(const CallInfo& call, const std::function<Value()>& proceed) {
-  const bool strikes = static_cast<int>(sites_.size()) == fault_.place;
+  const bool strikes = calls_ == fault_.place;
   const bool isReporter = call.object == reporter::kClass;
   FailIfDown(isReporter, call.object == session::kClass);
   if (isReporter) return strikes ? Strike(proceed) : Report(call, proceed);
@@ -86,6 +96,7 @@ Value FaultInjector::Strike(const std::function<Value()>& proceed) {
       proceed();
       Fail(true);
     case Way::kLibraryGone:
+    case Way::kLibraryReplaced:
       throw LibraryError(kServerGone, L"fault", std::wstring(kFaultText),
                          LibraryError::Outcome::kInterrupted);
     default:
@@ -97,7 +108,8 @@ Value FaultInjector::Strike(const std::function<Value()>& proceed) {
 // What stays down once the fault has come.
 void FaultInjector::FailIfDown(bool isReporter, bool isSession) {
   if (!struck_) return;
-  if (fault_.way == Way::kLibraryGone || (isReporter && fault_.way == Way::kErrorAndNoReporter)) {
+  if (fault_.way == Way::kLibraryGone || IsReplaced() ||
+      (isReporter && fault_.way == Way::kErrorAndNoReporter)) {
     throw LibraryError(kServerGone, L"fault", std::wstring(kFaultText),
                        LibraryError::Outcome::kNotSent);
   }
@@ -131,7 +143,5 @@ void FaultInjector::Fail(bool withNumber) {
   if (withNumber) lastError_ = {kFaultNumber, std::wstring(kFaultText)};
   throw LibraryError(kFaultNumber, L"fault", std::wstring(kFaultText));
 }
-
-void FaultInjector::Note(CallSite site) { sites_.push_back(std::move(site)); }
 
 }  // namespace faults

@@ -25,7 +25,8 @@ class FaultInjector : public hostlib::CallHook {
   FaultInjector(Fault fault, common::MessageBoxes& boxes, Timeline& timeline)
       : fault_(fault), boxes_(boxes), timeline_(timeline) {}
 
-  /// Every call so far; an undisturbed run's are the places where a fault can be put.
+  /// Every call of an undisturbed run: the places where a fault can be put. Of a disturbed one
+  /// nobody asks, and there are tens of thousands.
   const std::vector<CallSite>& sites() const { return sites_; }
   bool HasStruck() const { return struck_; }
   bool ShowsLastError() const { return showsLastError_; }
@@ -33,6 +34,12 @@ class FaultInjector : public hostlib::CallHook {
   void BeforeCreation(std::wstring_view className);
   hostlib::Value OnCall(const hostlib::CallInfo& call,
                         const std::function<hostlib::Value()>& proceed) override;
+
+  /// Another library has taken the place of the one that is gone.
+  bool IsReplaced() const { return struck_ && fault_.way == Way::kLibraryReplaced; }
+  /// A call to an object of that one.
+  hostlib::Value OnCallOfTheOther(const hostlib::CallInfo& call,
+                                  const std::function<hostlib::Value()>& proceed);
 
  private:
   struct LastError {
@@ -47,31 +54,49 @@ class FaultInjector : public hostlib::CallHook {
   hostlib::Value Report(const hostlib::CallInfo& call,
                         const std::function<hostlib::Value()>& proceed);
   [[noreturn]] void Fail(bool withNumber);
-  void Note(CallSite site);
+  bool IsUndisturbed() const { return fault_.place == 0; }
 
   Fault fault_;
   common::MessageBoxes& boxes_;
   Timeline& timeline_;
   std::vector<CallSite> sites_;
+  int calls_ = 0;
   bool struck_ = false;
   std::optional<LastError> lastError_;
   bool lastErrorRead_ = false;
   bool showsLastError_ = false;
 };
 
-/// A library with the injector before it.
+/// A library with the injector before it, and the other one that may take its place.
 class FaultyLibrary : public hostlib::Library {
  public:
-  FaultyLibrary(hostlib::Library& inner, FaultInjector& injector)
-      : hooked_(inner, injector), injector_(injector) {}
+  FaultyLibrary(hostlib::Library& inner, hostlib::Library& other, FaultInjector& injector)
+      : injector_(injector),
+        hooked_(inner, injector),
+        hookOfTheOther_(injector),
+        other_(other, hookOfTheOther_) {}
   hostlib::ObjectPtr Create(std::wstring_view className) override {
     injector_.BeforeCreation(className);
-    return hooked_.Create(className);
+    return injector_.IsReplaced() ? other_.Create(className) : hooked_.Create(className);
   }
 
  private:
-  hostlib::InterposedLibrary hooked_;
+  class HookOfTheOther : public hostlib::CallHook {
+   public:
+    explicit HookOfTheOther(FaultInjector& injector) : injector_(injector) {}
+    hostlib::Value OnCall(const hostlib::CallInfo& call,
+                          const std::function<hostlib::Value()>& proceed) override {
+      return injector_.OnCallOfTheOther(call, proceed);
+    }
+
+   private:
+    FaultInjector& injector_;
+  };
+
   FaultInjector& injector_;
+  hostlib::InterposedLibrary hooked_;
+  HookOfTheOther hookOfTheOther_;
+  hostlib::InterposedLibrary other_;
 };
 
 }  // namespace faults

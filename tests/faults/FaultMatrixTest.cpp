@@ -44,17 +44,19 @@ class Matrix {
   }
 
   int cases() const { return cases_; }
+  int cancels() const { return cancels_; }
   std::size_t ways() const { return ways_.size(); }
   const Complaints& complaints() const { return complaints_; }
 
  private:
   void Try(Fault fault) {
     const Shown shown = Judged(fault, {});
-    // A question that only the fault brings is answered both ways.
-    const auto asked = std::ranges::find_if(shown.timeline, [](const Event& event) {
-      return event.kind == Event::Kind::kBox && event.afterFault && (event.style & 1) != 0;
-    });
-    if (asked != shown.timeline.end()) Judged(fault, {.question = asked->question});
+    // Every question that comes with the fault is answered both ways.
+    for (const Event& event : shown.timeline) {
+      if (!event.afterFault || event.question == 0) continue;
+      ++cancels_;
+      Judged(fault, {.question = event.question});
+    }
   }
 
   Shown PerformOnce(Fault fault, Cancelling cancelling) {
@@ -90,6 +92,7 @@ class Matrix {
   Shown undisturbed_;
   Complaints undisturbedComplaints_;
   int cases_ = 0;
+  int cancels_ = 0;
   std::set<Way> ways_;
   Complaints complaints_;
 };
@@ -102,8 +105,9 @@ TEST_P(FaultMatrix, KeepsEveryPromiseWhicheverCallFails) {
   ASSERT_EQ(matrix.undisturbedComplaints(), Complaints{});
   matrix.TryAll();
   const auto took = std::chrono::steady_clock::now() - started;
-  std::cout << "faults injected into " << GetParam().name << ": " << matrix.cases() << " in "
-            << matrix.ways() << " ways at " << matrix.undisturbed().sites.size() << " calls"
+  std::cout << "faults injected into " << GetParam().name << ": " << matrix.cases() << " ("
+            << matrix.cancels() << " with a Cancel) in " << matrix.ways() << " ways at "
+            << matrix.undisturbed().sites.size() << " calls"
             << (matrix.isWrittenDown() ? ", each with its journal, " : ", ")
             << std::chrono::duration_cast<std::chrono::milliseconds>(took).count() << " ms\n";
   std::wstring shown;

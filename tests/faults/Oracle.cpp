@@ -163,8 +163,8 @@ Complaints Judge(Replays& replays, const Shown& undisturbed, const Shown& shown,
   if (fault.place == 0) return found;
   if (!shown.struck) found.push_back(L"the fault did not come");
   if (IsError(fault.way)) Append(found, OnTheAgentsKnowledge(shown.timeline));
-  const bool loses = fault.way == Way::kLibraryGone || fault.way == Way::kSessionLost ||
-                     fault.way == Way::kAnswerLost;
+  const bool loses = fault.way == Way::kLibraryGone || fault.way == Way::kLibraryReplaced ||
+                     fault.way == Way::kSessionLost || fault.way == Way::kAnswerLost;
   if (loses) Append(found, OnTheLostSession(undisturbed, shown));
   return found;
 }

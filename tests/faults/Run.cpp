@@ -9,8 +9,8 @@ Shown Perform(const practice::RehearsalScene& scene, Fault fault, Cancelling can
   agent.Watch(injector);
   practice::RehearsalScene hooked = scene;
   hooked.recordCalls = false;
-  hooked.decorate = [&injector](hostlib::Library& library) -> std::unique_ptr<hostlib::Library> {
-    return std::make_unique<FaultyLibrary>(library, injector);
+  hooked.decorateBoth = [&injector](hostlib::Library& library, hostlib::Library& other) {
+    return std::make_unique<FaultyLibrary>(library, other, injector);
   };
   try {
     shown.outcome = practice::Rehearse(hooked, agent);

@@ -17,6 +17,7 @@ constexpr std::wstring_view kNames[] = {
     L"an error without a number",
     L"an error, and no reporter",
     L"the library gone",
+    L"the library replaced",
     L"the session lost",
     L"the answer lost",
     L"an empty text",
@@ -106,7 +107,7 @@ bool IsError(Way way) { return way <= Way::kAnswerLost; }
 
 std::vector<Way> WaysOf(const CallSite& site) {
   std::vector<Way> ways = {Way::kErrorWithNumber, Way::kErrorWithoutNumber,
-                           Way::kErrorAndNoReporter, Way::kLibraryGone};
+                           Way::kErrorAndNoReporter, Way::kLibraryGone, Way::kLibraryReplaced};
   if (site.isSession) {
     ways.push_back(Way::kSessionLost);
     if (!site.isCreation) ways.push_back(Way::kAnswerLost);

@@ -13,8 +13,9 @@ enum class Way {
   kErrorWithoutNumber,  ///< the library fails and its last error is 0
   kErrorAndNoReporter,  ///< the same as the first, and the error reporter fails from then on
   kLibraryGone,         ///< from this call on nothing of the library answers
-  kSessionLost,         ///< from this call on the session carries nothing
-  kAnswerLost,          ///< the host takes this entry, its answer and the session are lost
+  kLibraryReplaced,  ///< it is gone, too, but another one without a session makes the new objects
+  kSessionLost,      ///< from this call on the session carries nothing
+  kAnswerLost,       ///< the host takes this entry, its answer and the session are lost
   kEmptyText,
   kRandomText,
   kHugeText,
