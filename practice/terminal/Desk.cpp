@@ -75,6 +75,11 @@ bool Desk::IssueDocument() {
 
 void Desk::BehaveWell() { host_.faults = {}; }
 
+void Desk::ForgetTranscript() {
+  transcript_ = {};
+  if (onForgotten) onForgotten();
+}
+
 std::wstring Desk::FaultText() const {
   const Faults& faults = host_.faults;
   if (faults.dropFrom > 0) return texts::kSessionLost;

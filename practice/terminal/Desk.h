@@ -44,12 +44,16 @@ class Desk {
   int EntryCount() const { return host_.EntryCount(); }
   std::wstring PnrText() const { return host_.PnrText(); }
   const std::wstring& transcript() const { return transcript_; }
+  /// An empty one, which takes no more memory than at the start.
+  void ForgetTranscript();
   const std::wstring& booking() const { return booking_; }
   /// What the host was told to do wrong; "" when nothing.
   std::wstring FaultText() const;
 
   /// Told what came to the transcript.
   std::function<void(std::wstring_view added)> onTranscript;
+  /// Told when nothing of it is left.
+  std::function<void()> onForgotten;
 
  private:
   void Note(std::wstring text);

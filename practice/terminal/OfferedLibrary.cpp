@@ -4,6 +4,7 @@
 
 #include "practice/library/PracticeObject.h"
 #include "practice/terminal/Texts.h"
+#include "practice/terminal/UsedHeap.h"
 #include "practice/terminal/Waiting.h"
 
 namespace practice::terminal {
@@ -67,6 +68,11 @@ class DeskObject : public PracticeObject {
       desk.SlowDown([&desk, held, time] {
         if (desk.EntryCount() == held) WaitAlive(time, [&desk] { return !desk.IsSlow(); });
       });
+      return Value();
+    });
+    OnSlot(20, [](const Arguments&) { return Value(static_cast<std::int32_t>(UsedHeap())); });
+    OnSlot(21, [&desk](const Arguments&) {
+      desk.ForgetTranscript();
       return Value();
     });
     OnSlot(15, [&desk](const Arguments&) {

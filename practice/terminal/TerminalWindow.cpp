@@ -49,11 +49,13 @@ TerminalWindow::TerminalWindow(Server& server)
                             NewTerminalMenu(names_), GetModuleHandleW(nullptr), this);
   if (window_ == nullptr) throw common::RunTimeError(texts::kNoWindow);
   server_.desk().onTranscript = [this](std::wstring_view text) { Append(text); };
+  server_.desk().onForgotten = [this] { SetWindowTextW(Item(kTranscriptId), L""); };
   server_.exporter().onChange = [this](int) { UpdateStatus(); };
 }
 
 TerminalWindow::~TerminalWindow() {
   server_.desk().onTranscript = nullptr;
+  server_.desk().onForgotten = nullptr;
   server_.exporter().onChange = nullptr;
   server_.desk().BehaveWell();
   if (window_ != nullptr) DestroyWindow(window_);

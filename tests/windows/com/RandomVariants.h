@@ -42,7 +42,4 @@ class RandomVariants {
   std::mt19937 random_;
 };
 
-/// The bytes in use on this process's heaps.
-std::size_t UsedHeap();
-
 }  // namespace com_tests

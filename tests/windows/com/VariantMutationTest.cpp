@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "hostlib/com/Failures.h"
+#include "practice/terminal/UsedHeap.h"
 #include "tests/windows/com/RandomVariants.h"
 
 namespace com_tests {
@@ -65,7 +66,7 @@ TEST(VariantMutation, ConvertingLeavesNoMemoryBehind) {
   const auto pass = [&] {
     RandomVariants random(kSeed);
     for (int i = 0; i < kVariants / 20; ++i) Convert(random.Next().variant(), outcomes);
-    return UsedHeap();
+    return practice::terminal::UsedHeap();
   };
   // The first passes fill what the system keeps for later.
   pass();

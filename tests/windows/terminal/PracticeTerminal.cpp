@@ -87,6 +87,10 @@ std::wstring PracticeTerminal::Transcript() const {
   return client::TextIn(AskDesk(L"TranscriptText"));
 }
 
+void PracticeTerminal::ForgetTranscript() { AskDesk(L"ForgetTranscript"); }
+
+long PracticeTerminal::UsedHeap() const { return AskDesk(L"UsedHeap").get().lVal; }
+
 std::vector<std::wstring> PracticeTerminal::Entries() const {
   std::wstring text = Transcript();
   text.erase(0, text.rfind(L"--- Practice booking"));

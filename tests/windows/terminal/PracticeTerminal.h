@@ -34,6 +34,9 @@ class PracticeTerminal {
   /// What the host was asked, in order, since the booking was opened.
   std::vector<std::wstring> Entries() const;
   std::wstring Transcript() const;
+  void ForgetTranscript();
+  /// The bytes in use on its heaps.
+  long UsedHeap() const;
   /// The program that attached last: its progress form's caption and text, its title, folder and
   /// instance, a line each.
   std::wstring Attached() const;

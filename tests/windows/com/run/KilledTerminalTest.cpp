@@ -1,80 +1,74 @@
 #include <cstdlib>
 
 #include "app/Program.h"
-#include "tests/faults/PatientAgent.h"
-#include "tests/faults/RuledBoxes.h"
+#include "common/ConstDefintions.h"
+#include "common/LineFeeds.h"
+#include "tests/faults/Run.h"
 #include "tests/run/Scenes.h"
+#include "tests/windows/com/run/AgentAtTheTerminal.h"
 #include "tests/windows/com/run/RunningTerminal.h"
-#include "tests/windows/driver/Driver.h"
+#include "tests/windows/com/run/WatchedLibrary.h"
 
-// A terminal that is killed in the middle of a run, at one call after the other. ./test takes a
-// sample; with PTA_EVERY_CALL in the environment every call of the run has its turn.
+// A terminal that is killed in the middle of a run, at one call after the other. The agent must see
+// what the fault matrix shows, natively, for a library that is gone from that call on while another
+// one makes the new objects: the system starts the terminal's program anew when it is asked for
+// one. ./test takes a sample; with PTA_EVERY_CALL in the environment every call has its turn.
 namespace com_run {
 namespace {
 
 constexpr int kBetweenSamples = 29;
 
-/// Counts the calls, and does something before one of them.
-class BeforeCall : public hostlib::CallHook {
- public:
-  BeforeCall(int call, std::function<void()> action) : call_(call), action_(std::move(action)) {}
+/// A box in one line: its style, its title and its text.
+using Boxes = std::vector<std::string>;
 
-  void ObjectCreated(std::wstring_view) override { ++live_; }
-  void ObjectReleased(std::wstring_view) override { --live_; }
-  hostlib::Value OnCall(const hostlib::CallInfo&,
-                        const std::function<hostlib::Value()>& proceed) override {
-    if (++count_ == call_) action_();
-    try {
-      return proceed();
-    } catch (const hostlib::LibraryError&) {
-      if (!failed_) failed_ = std::chrono::steady_clock::now();
-      throw;
-    }
+std::string Line(int style, const std::wstring& title, const std::wstring& text) {
+  return std::to_string(style) + " \"" + common::ToUtf8(title) + "\" \"" +
+         common::ToUtf8(common::WithLineFeeds(text)) + "\"";
+}
+
+/// The boxes of a run; a failure's own words, which the library has from the system, instead of
+/// those that the fault matrix puts there.
+Boxes BoxesOf(const faults::Timeline& timeline, const std::wstring& words) {
+  Boxes boxes;
+  for (const faults::Event& event : timeline) {
+    if (event.kind != faults::Event::Kind::kBox) continue;
+    boxes.push_back(
+        Line(event.style, event.title, common::Replace(event.text, faults::kFaultText, words)));
   }
-
-  int count() const { return count_; }
-  int live() const { return live_; }
-  /// When the first call failed.
-  const std::optional<std::chrono::steady_clock::time_point>& failed() const { return failed_; }
-
- private:
-  int call_;
-  std::function<void()> action_;
-  int count_ = 0;
-  int live_ = 0;
-  std::optional<std::chrono::steady_clock::time_point> failed_;
-};
+  return boxes;
+}
 
 class KilledTerminal : public RunningTerminal {
  protected:
-  /// Runs the ordinary booking to its end, however it ends, and holds what was seen against what
-  /// the rules name. Gives the number of library calls.
-  int RunToTheEnd(int call, const std::function<void()>& before) {
-    std::optional<std::chrono::steady_clock::time_point> killed;
-    BeforeCall hook(call, [&] {
-      before();
-      killed = std::chrono::steady_clock::now();
-    });
-    hostlib::InterposedLibrary hooked(library_, hook);
+  /// Runs the ordinary booking to its end, however it ends, and gives the boxes that were shown.
+  Boxes RunToTheEnd(Watch& watch) {
+    WatchedLibrary watched(library_, watch);
     faults::Timeline timeline;
     faults::PatientAgent agent(scene_.agent, {}, timeline);
+    AgentAtTheTerminal atTheTerminal;
     try {
-      EXPECT_EQ(app::RunProgram(hooked, agent, platform_), 0);
+      EXPECT_EQ(app::RunProgram(watched, agent, platform_), 0);
     } catch (const faults::AgentStuck& stuck) {
       ADD_FAILURE() << "the agent is stuck: " << common::ToUtf8(stuck.where);
     }
-    const auto end = std::chrono::steady_clock::now();
-    // A terminal that dies in a call is noticed when the call fails.
-    if (!killed) killed = hook.failed();
-    EXPECT_LT(end - killed.value_or(end), std::chrono::seconds(5));
-    dies_ = killed.has_value();
-    EXPECT_EQ(hook.live(), 0);
-    for (const faults::Event& event : timeline) {
-      if (event.kind != faults::Event::Kind::kBox) continue;
-      ++boxes_;
-      EXPECT_TRUE(faults::RuleOf(event)) << common::ToUtf8(event.text);
+    const auto end = Watch::Clock::now();
+    if (watch.failure()) {
+      EXPECT_LT(end - watch.failure()->when, std::chrono::seconds(5));
     }
-    return hook.count();
+    EXPECT_EQ(watch.live(), 0);
+    Boxes boxes;
+    for (const SeenBox& box : atTheTerminal.Leave()) {
+      boxes.push_back(Line(box.hasIcon ? common::kCritical : 0, box.title, box.text));
+    }
+    for (std::string& box : BoxesOf(timeline, {})) boxes.push_back(std::move(box));
+    return boxes;
+  }
+
+  /// What the same run shows natively when its library dies before this call.
+  Boxes Natively(int place, const Watch& watch) const {
+    const faults::Shown shown =
+        faults::Perform(scene_, {.place = place, .way = faults::Way::kLibraryReplaced});
+    return BoxesOf(shown.timeline, watch.failure() ? watch.failure()->words : std::wstring());
   }
 
   /// A terminal as at the beginning of a run.
@@ -84,47 +78,49 @@ class KilledTerminal : public RunningTerminal {
   }
 
   practice::RehearsalScene scene_ = run::OrdinaryScene();
-  int boxes_ = 0;
-  bool dies_ = false;
 };
 
-TEST_F(KilledTerminal, BeforeAnyCallEndsTheRunWithABoxThatTheRulesName) {
+TEST_F(KilledTerminal, BeforeAnyCallShowsTheBoxesOfTheFaultMatrix) {
   Telling([&] {
     Open();
-    const int calls = RunToTheEnd(0, [] {});
-    ASSERT_GT(calls, 200);
-    ASSERT_EQ(boxes_, 0);
+    Watch undisturbed;
+    ASSERT_EQ(RunToTheEnd(undisturbed), Boxes{});
+    const auto sites = faults::Perform(scene_).sites;
+    // Else the places would not be the same calls.
+    ASSERT_EQ(undisturbed.count(), static_cast<int>(sites.size()));
     const int step = std::getenv("PTA_EVERY_CALL") != nullptr ? 1 : kBetweenSamples;
     int kills = 0;
-    // The first call comes before there is anything that could be told to the agent's reporter.
-    for (int call = 2; call <= calls; call += step, ++kills) {
-      SCOPED_TRACE("killed before call " + std::to_string(call));
+    for (int place = 1; place <= undisturbed.count(); place += step, ++kills) {
+      SCOPED_TRACE("killed before call " + std::to_string(place) + ", " +
+                   common::ToUtf8(sites[static_cast<std::size_t>(place) - 1].name));
       Open();
-      boxes_ = 0;
-      RunToTheEnd(call, [this] { terminal_->Kill(); });
-      const bool isTheLastGoodbye = call > calls - step;
-      EXPECT_TRUE(boxes_ > 0 || isTheLastGoodbye);
+      Watch watch(place, [this] { terminal_->Kill(); });
+      const Boxes boxes = RunToTheEnd(watch);
+      EXPECT_EQ(boxes, Natively(place, watch));
     }
-    std::cout << "terminals killed: " << kills << " before one of " << calls << " calls\n";
+    std::cout << "terminals killed: " << kills << " before one of " << undisturbed.count()
+              << " calls\n";
   });
 }
 
-TEST_F(KilledTerminal, InTheMiddleOfAnyEntryEndsTheRunWithABoxThatTheRulesName) {
+TEST_F(KilledTerminal, InTheMiddleOfAnyEntryShowsTheBoxesOfTheFaultMatrix) {
   Telling([&] {
     Open();
-    RunToTheEnd(0, [] {});
+    Watch undisturbed;
+    RunToTheEnd(undisturbed);
     const int entries = static_cast<int>(terminal_->Entries().size());
     ASSERT_GT(entries, 10);
     for (int entry = 1; entry <= entries; ++entry) {
       SCOPED_TRACE("dies in entry " + std::to_string(entry));
       Open();
-      boxes_ = 0;
       terminal_->DieInEntry(entry);
-      RunToTheEnd(0, [] {});
-      EXPECT_GT(boxes_, 0);
-      EXPECT_TRUE(dies_);
-      EXPECT_FALSE(terminal_->IsRunning());
-      terminal_->Kill();
+      Watch watch;
+      // Wine must know, too, that it is dead.
+      watch.onFailure = [this] { terminal_->Kill(); };
+      const Boxes boxes = RunToTheEnd(watch);
+      ASSERT_TRUE(watch.failure());
+      EXPECT_EQ(boxes, Natively(watch.failure()->place, watch));
+      EXPECT_NE(boxes, Boxes{});
     }
     std::cout << "terminals that died in an entry: " << entries << "\n";
   });
