@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/windows/driver/Driver.h"
+#include "tests/windows/program/Boxes.h"
 #include "tests/windows/program/Stage.h"
 #include "tests/windows/terminal/Client.h"
 #include "ui/win32/resource.h"
@@ -21,27 +22,7 @@ class LinkFailure : public testing::Test {
     const HWND box = stage_->program().WaitForBox();
     EXPECT_EQ(ToUtf8(BoxText(box)), ToUtf8(text));
     EXPECT_EQ(TextOf(box), kTitle);
-    Press(OkButton(box), VK_RETURN);
-    WaitUntil(L"the box is gone", [box] { return !IsWindow(box); });
-  }
-  /// All boxes until the program ends, in their order.
-  std::vector<std::wstring> SeeBoxesToTheEnd() {
-    std::vector<std::wstring> texts;
-    for (;;) {
-      HWND box = nullptr;
-      WaitUntil(L"the program shows a box or ends", [&] {
-        box = stage_->program().Box();
-        return box != nullptr || !stage_->program().IsRunning();
-      });
-      if (box == nullptr) return texts;
-      texts.push_back(BoxText(box));
-      Press(OkButton(box), VK_RETURN);
-      WaitUntil(L"the box is gone", [box] { return !IsWindow(box); });
-    }
-  }
-  static void NothingRuns(const std::wstring& name) {
-    EXPECT_TRUE(Holds([&] { return terminal::Running(name) == 0; }, std::chrono::seconds(5)))
-        << ToUtf8(name);
+    PressOk(box);
   }
 
   std::optional<Stage> stage_;
@@ -52,14 +33,14 @@ TEST_F(LinkFailure, WithoutALibraryTheAgentIsAskedToStartATerminal) {
   stage_.emplace(nullptr).Start();
   SeeBox(kNotConnected);
   EXPECT_EQ(stage_->ExitCode(), 0u);
-  NothingRuns(terminal::kPracticeTerminal);
+  ExpectNothingRuns(terminal::kPracticeTerminal);
 }
 
 TEST_F(LinkFailure, WithoutATerminalToo) {
   stage_.emplace(nullptr).Start();
   SeeBox(kNotConnected);
   EXPECT_EQ(stage_->ExitCode(), 0u);
-  NothingRuns(terminal::kPracticeTerminal);
+  ExpectNothingRuns(terminal::kPracticeTerminal);
 }
 
 TEST_F(LinkFailure, ATerminalThatWasClosedBeforeIsNone) {
@@ -67,7 +48,7 @@ TEST_F(LinkFailure, ATerminalThatWasClosedBeforeIsNone) {
   stage_->Start();
   SeeBox(kNotConnected);
   EXPECT_EQ(stage_->ExitCode(), 0u);
-  NothingRuns(terminal::kPracticeTerminal);
+  ExpectNothingRuns(terminal::kPracticeTerminal);
 }
 
 TEST_F(LinkFailure, ATerminalThatIsClosedWhileTheDialogIsOpenFailsTheFirstChange) {
@@ -78,7 +59,7 @@ TEST_F(LinkFailure, ATerminalThatIsClosedWhileTheDialogIsOpenFailsTheFirstChange
   Click(Item(dialog, ID_cmdOK));
   SeeBox(L"Error when updating the Ticketing Element!");
   EXPECT_EQ(stage_->ExitCode(), 0u);
-  NothingRuns(terminal::kPracticeTerminal);
+  ExpectNothingRuns(terminal::kPracticeTerminal);
 }
 
 TEST_F(LinkFailure, ATerminalThatIsClosedWhileTheDialogIsOpenDoesNotHoldCancelUp) {
@@ -88,7 +69,7 @@ TEST_F(LinkFailure, ATerminalThatIsClosedWhileTheDialogIsOpenDoesNotHoldCancelUp
   stage_->CloseTerminal();
   Click(Item(dialog, ID_cmdCancel));
   EXPECT_EQ(stage_->ExitCode(), 0u);
-  NothingRuns(terminal::kPracticeTerminal);
+  ExpectNothingRuns(terminal::kPracticeTerminal);
 }
 
 TEST_F(LinkFailure, ATerminalThatIsClosedAfterTheRunLeavesNothing) {
@@ -96,8 +77,8 @@ TEST_F(LinkFailure, ATerminalThatIsClosedAfterTheRunLeavesNothing) {
   EXPECT_EQ(stage_->ExitCode(), 0u);
   EXPECT_EQ(terminal::Running(), 1);
   stage_->CloseTerminal();
-  NothingRuns(terminal::kPracticeTerminal);
-  NothingRuns(L"PTA_QX.exe");
+  ExpectNothingRuns(terminal::kPracticeTerminal);
+  ExpectNothingRuns(L"PTA_QX.exe");
 }
 
 TEST_F(LinkFailure, ATerminalThatIsClosedInTheMiddleOfAnEntryFailsThatStep) {
@@ -105,12 +86,12 @@ TEST_F(LinkFailure, ATerminalThatIsClosedInTheMiddleOfAnEntryFailsThatStep) {
   stage_->Start();
   WaitUntil(L"the host is asked", [this] { return stage_->terminal().EntryCount() > 0; });
   stage_->CloseTerminal();
-  EXPECT_EQ(SeeBoxesToTheEnd(),
-            (std::vector<std::wstring>{L"Error when sending the PV transaction.",
-                                       L"Unable to retrieve the PNR.\nMake sure there is an active "
-                                       L"PNR.\nThe program will terminate."}));
+  EXPECT_EQ(BoxesToTheEnd(stage_->program()),
+            (std::vector<SeenBox>{{L"Error when sending the PV transaction."},
+                                  {L"Unable to retrieve the PNR.\nMake sure there is an active "
+                                   L"PNR.\nThe program will terminate."}}));
   EXPECT_EQ(stage_->ExitCode(), 0u);
-  NothingRuns(terminal::kPracticeTerminal);
+  ExpectNothingRuns(terminal::kPracticeTerminal);
 }
 
 struct Misfit {
@@ -128,7 +109,7 @@ TEST_P(LibraryThatDoesNotFit, IsRefusedWithItsSlotBeforeAnythingIsSent) {
                       L"needs.\n\n") +
          GetParam().words);
   EXPECT_EQ(stage_->ExitCode(), 1u);
-  NothingRuns(GetParam().terminal);
+  ExpectNothingRuns(GetParam().terminal);
 }
 
 INSTANTIATE_TEST_SUITE_P(
