@@ -12,7 +12,8 @@ stage_files() {
   mkdir -p "$stage"/{x64,x86,common/docs}
   cp build/release/bin/{PTA_QX,VantelPractice}.exe "$stage/x64/"
   cp build/release-x86/bin/{PTA_QX,VantelPractice}.exe "$stage/x86/"
-  cp -r build/release/bin/pnrs "$stage/common/"
+  # Those beside the built program are as old as its last linking.
+  cmake -DFROM="$PWD/practice/pnrs" -DTO="$stage/common/pnrs" -P practice/terminal/CopyBookings.cmake
   sed 's/\r*$/\r/' packaging/PTA_QX.sample.ini >"$stage/common/PTA_QX.sample.ini"
   packaging/make-guides "$stage/common/docs"
   list_files "$stage/common" docs pnrs >"$stage/Installed.lst"
