@@ -7,9 +7,8 @@ namespace {
 
 using namespace operations;
 
+// The class whose object a run makes first comes first.
 constexpr Operation kAll[] = {
-    parameter_bag::kSetValue,
-    parameter_bag::kGetValue,
     script_global::kGetField,
     script_global::kHostDateToText,
     script_global::kTextToHostDate,
@@ -17,6 +16,8 @@ constexpr Operation kAll[] = {
     script_global::kToBoolean,
     script_global::kAttach,
     script_global::kFormatAssociation,
+    parameter_bag::kSetValue,
+    parameter_bag::kGetValue,
     terminal_session::kLoadPNR,
     terminal_session::kSendCommand,
     terminal_session::kSendEntry,

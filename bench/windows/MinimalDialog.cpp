@@ -1,5 +1,4 @@
-// The least that a program with a dialog is: what PTA_QX takes beyond it is its own.
-#include <windows.h>
+#include "bench/windows/MinimalDialog.h"
 
 #include "bench/windows/resource.h"
 
@@ -12,6 +11,6 @@ INT_PTR CALLBACK Handle(HWND dialog, UINT message, WPARAM, LPARAM) {
 
 }  // namespace
 
-int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, LPWSTR, int) {
+int ShowMinimalDialog(HINSTANCE instance) {
   return static_cast<int>(DialogBoxParamW(instance, L"MINIMAL", nullptr, Handle, 0));
 }

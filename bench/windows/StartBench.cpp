@@ -1,5 +1,6 @@
-// Measures how the program starts beside a minimal dialog program and a practice terminal whose
-// host answers at once: the time to the first window and to the dialog, and the memory at it.
+// Measures how the program starts beside two minimal dialog programs, one of which attaches to the
+// terminal first, with a practice terminal whose host answers at once: the time to the first window
+// and to the dialog, and the memory at it.
 //
 //   pta-start-bench [ROUNDS]   all programs lie in its own folder, with PTA_QX.ini
 
@@ -26,17 +27,29 @@ void PrintFigure(const char* what, double figure, double atMost, const char* uni
               figure <= atMost ? "met" : "MISSED");
 }
 
-void Print(const Start& minimal, const Start& program, const bench::HostTime& host) {
+/// The same of all programs.
+template <typename Of>
+struct Each {
+  Of minimal;
+  Of attached;
+  Of program;
+};
+
+void Print(const Each<Start>& medians, const bench::HostTime& host) {
+  const auto& [minimal, attached, program] = medians;
   std::printf("\nStart, medians in milliseconds: first window, dialog ready; memory in MB\n");
   const auto line = [](const char* name, const Start& start) {
     std::printf("  %-52s %7.0f %7.0f %7.2f\n", name, start.firstWindow.count(), start.ready.count(),
                 start.megabytes);
   };
   line("minimal dialog program", minimal);
+  line("minimal dialog program that attaches", attached);
   line("PTA_QX", program);
   std::printf("  %-52s         %7.0f\n", "the host: its library calls alone", host.time.count());
   PrintFigure("first window, over the minimal program", program.firstWindow / minimal.firstWindow,
               1.5, "");
+  PrintFigure("first window, over the one that attaches",
+              program.firstWindow / attached.firstWindow, 1.5, "");
   PrintFigure("dialog ready, over 1.5 minimal starts and the host",
               program.ready / (1.5 * minimal.ready + host.time), 1.0, "");
   if (program.megabytes > 0) {
@@ -47,9 +60,11 @@ void Print(const Start& minimal, const Start& program, const bench::HostTime& ho
   }
 }
 
-void PrintRound(const Start& minimal, const Start& program) {
-  std::printf("  first window %5.0f %5.0f   dialog ready %5.0f %5.0f\n",
-              minimal.firstWindow.count(), program.firstWindow.count(), minimal.ready.count(),
+void PrintRound(const Each<Start>& start) {
+  const auto& [minimal, attached, program] = start;
+  std::printf("  first window %5.0f %5.0f %5.0f   dialog ready %5.0f %5.0f %5.0f\n",
+              minimal.firstWindow.count(), attached.firstWindow.count(),
+              program.firstWindow.count(), minimal.ready.count(), attached.ready.count(),
               program.ready.count());
   std::fflush(stdout);
 }
@@ -64,24 +79,29 @@ std::wstring TextOf(const std::wstring& path) {
 }
 
 void Measure(int rounds) {
-  std::puts("Each round in milliseconds, the minimal program and PTA_QX:");
+  std::puts("Each round in milliseconds, the minimal programs and PTA_QX:");
   const terminal::Registered registered;
   terminal::PracticeTerminal terminal(L"ordinary");
   const std::wstring own = terminal::TestProgram();
   const std::wstring folder = own.substr(0, own.find_last_of(L'\\') + 1);
   const std::wstring booking = TextOf(folder + L"pnrs\\ordinary.pnr");
-  std::vector<Start> minimal;
-  std::vector<Start> program;
+  Each<std::vector<Start>> starts;
   for (int round = 0; round < rounds; ++round) {
-    minimal.push_back(bench::StartOnce(folder + L"pta-minimal.exe", ID_MINIMAL_OK));
     terminal.Load(booking);
-    program.push_back(bench::StartOnce(folder + L"PTA_QX.exe", ID_cmdOK));
-    PrintRound(minimal.back(), program.back());
+    const Each<Start> start{bench::StartOnce(folder + L"pta-minimal.exe", ID_MINIMAL_OK),
+                            bench::StartOnce(folder + L"pta-attached.exe", ID_MINIMAL_OK),
+                            bench::StartOnce(folder + L"PTA_QX.exe", ID_cmdOK)};
+    PrintRound(start);
+    starts.minimal.push_back(start.minimal);
+    starts.attached.push_back(start.attached);
+    starts.program.push_back(start.program);
   }
   terminal.Load(booking);
   hostlib::com::InstalledObjects installed;
   hostlib::com::ComLibrary library(installed);
-  Print(bench::Median(minimal), bench::Median(program), bench::MeasureHostTime(library, rounds));
+  Print({bench::Median(starts.minimal), bench::Median(starts.attached),
+         bench::Median(starts.program)},
+        bench::MeasureHostTime(library, rounds));
 }
 
 }  // namespace

@@ -62,11 +62,13 @@ ClassBinding& ComLibrary::BindingFor(std::wstring_view className, IDispatch& obj
     return *found->second;
   }
   if (ClassBinding* binding = BindingWithoutObject(className)) return *binding;
+  if (const TypeLibrary library = TypeLibraryOf(object)) {
+    typeLibraries_.push_back(library);
+    if (ClassBinding* binding = BindingIn(library, className)) return *binding;
+  }
   const InstalledClass& installed = Find(className);
-  auto binding = std::make_unique<ClassBinding>(
-      std::wstring(className), object, SUCCEEDED(installed.found) ? &installed.id : nullptr);
-  if (TypeLibrary library = TypeLibraryOf(object)) typeLibraries_.push_back(std::move(library));
-  return Keep(std::move(binding));
+  return Keep(std::make_unique<ClassBinding>(std::wstring(className), object,
+                                             SUCCEEDED(installed.found) ? &installed.id : nullptr));
 }
 
 ClassBinding* ComLibrary::BindingWithoutObject(std::wstring_view className) {

@@ -2,6 +2,7 @@
 
 #include <map>
 #include <set>
+#include <utility>
 
 #include "common/Numbers.h"
 #include "hostlib/com/CallOutcome.h"
@@ -41,6 +42,14 @@ class LibraryCheck {
       if (!fault.empty()) faults.push_back(fault);
     }
     return faults;
+  }
+
+  std::vector<ObjectPtr> Made() const {
+    std::vector<ObjectPtr> made;
+    for (const auto& [className, object] : held_) {
+      made.push_back(library_.Inward(object, className));
+    }
+    return made;
   }
 
  private:
@@ -112,9 +121,10 @@ std::wstring Message(const std::vector<std::wstring>& faults) {
 
 }  // namespace
 
-void CheckUsedOperations(ComLibrary& library, std::span<const Operation> used) {
-  const std::vector<std::wstring> faults = LibraryCheck(library, used).Faults();
-  if (faults.empty()) return;
+std::vector<ObjectPtr> CheckUsedOperations(ComLibrary& library, std::span<const Operation> used) {
+  LibraryCheck check(library, used);
+  const std::vector<std::wstring> faults = check.Faults();
+  if (faults.empty()) return check.Made();
   throw LibraryError(kLibraryDoesNotFit, L"hostlib", Message(faults),
                      LibraryError::Outcome::kNotSent);
 }
@@ -122,7 +132,7 @@ void CheckUsedOperations(ComLibrary& library, std::span<const Operation> used) {
 CheckedLibrary::CheckedLibrary(ComLibrary& library, std::span<const Operation> used)
     : library_(library) {
   try {
-    CheckUsedOperations(library, used);
+    ofTheCheck_ = CheckUsedOperations(library, used);
   } catch (const LibraryError& error) {
     if (error.number() == kLibraryDoesNotFit) throw;
     failure_ = error;
@@ -130,7 +140,12 @@ CheckedLibrary::CheckedLibrary(ComLibrary& library, std::span<const Operation> u
 }
 
 ObjectPtr CheckedLibrary::Create(std::wstring_view className) {
-  if (!failure_) return library_.Create(className);
+  if (!failure_) {
+    for (const ObjectPtr& ready : std::exchange(ofTheCheck_, {})) {
+      if (ready->ClassName() == className) return ready;
+    }
+    return library_.Create(className);
+  }
   LibraryError failure = *failure_;
   failure.Locate(className, L"Create");
   throw failure;

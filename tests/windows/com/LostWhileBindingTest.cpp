@@ -146,5 +146,25 @@ TEST_F(CheckedLibrary, IsNoneWhenTheLibraryDoesNotFit) {
             hostlib::com::kLibraryDoesNotFit);
 }
 
+TEST_F(CheckedLibrary, GivesTheObjectOfTheCheckToTheRunThatAsksForItFirst) {
+  Install(L"ParameterBag", __uuidof(::TestBag), __uuidof(IBag));
+  hostlib::com::CheckedLibrary checked(library_, std::span(kUsed).first(1));
+  EXPECT_EQ(source_.made, 1);
+  const auto first = checked.Create(L"ParameterBag");
+  EXPECT_EQ(source_.made, 1);
+  EXPECT_NE(checked.Create(L"ParameterBag"), first);
+  EXPECT_EQ(source_.made, 2);
+}
+
+TEST_F(CheckedLibrary, KeepsNoObjectOfTheCheckBesideThoseOfTheRun) {
+  const auto bag = Install(L"ParameterBag", __uuidof(::TestBag), __uuidof(IBag));
+  Install(L"TerminalSession", __uuidof(::TestSession), __uuidof(ISession));
+  const ULONG before = bag->references();
+  hostlib::com::CheckedLibrary checked(library_, std::span(kUsed).first(2));
+  EXPECT_GT(bag->references(), before);
+  EXPECT_NE(checked.Create(L"TerminalSession"), nullptr);
+  EXPECT_EQ(bag->references(), before);
+}
+
 }  // namespace
 }  // namespace com_tests
