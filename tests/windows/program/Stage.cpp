@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdio>
+#include <iterator>
 
 #include "platform/win32/WindowsPlatform.h"
 #include "tests/windows/driver/Driver.h"
@@ -32,6 +33,13 @@ void Store(std::wstring_view key, std::wstring_view text) {
   client::Call(*client::Make(L"UserSettingsStore").Get(), L"SaveSetting", std::move(arguments));
 }
 
+/// Sessions run side by side, each with a program of its own.
+std::wstring SessionSuffix() {
+  wchar_t session[40] = {};
+  GetEnvironmentVariableW(L"PTA_WINE_SESSION", session, static_cast<DWORD>(std::size(session)));
+  return session[0] == L'\0' ? std::wstring() : L"-" + std::wstring(session);
+}
+
 std::wstring ReadText(const std::wstring& path) {
   std::FILE* const file = _wfopen(path.c_str(), L"rb");
   if (file == nullptr) throw DriverError(L"Cannot read " + path);
@@ -59,7 +67,7 @@ std::wstring ProjectFile(const std::wstring& path) {
 
 Stage::Stage(TerminalPtr terminal) : terminal_(std::move(terminal)) {
   const std::wstring product = WindowsPath(PTA_PROGRAM);
-  folder_ = product.substr(0, product.find_last_of(L'\\')) + L"\\stage";
+  folder_ = product.substr(0, product.find_last_of(L'\\')) + L"\\stage" + SessionSuffix();
   CreateDirectoryW(folder_.c_str(), nullptr);
   if (!CopyFileW(product.c_str(), (folder_ + L"\\PTA_QX.exe").c_str(), FALSE)) {
     throw DriverError(L"Cannot copy " + product);
