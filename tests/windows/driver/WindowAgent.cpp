@@ -23,7 +23,7 @@ const std::map<std::wstring, int> kMarks = {{L"frmWorking", ID_lblWorking},
 
 constexpr COLORREF kYellow = RGB(255, 255, 0);
 /// How long a window may take until it shows what is expected.
-constexpr auto kLook = std::chrono::seconds(5);
+constexpr auto kLook = std::chrono::seconds(20);
 /// How long the program may be busy with the host before its next form comes.
 constexpr auto kOnTheWay = std::chrono::seconds(60);
 constexpr auto kTimerInterval = std::chrono::seconds(5);

@@ -79,7 +79,7 @@ Stage::Stage(TerminalPtr terminal) : terminal_(std::move(terminal)) {
 Stage::~Stage() {
   program_ = nullptr;
   if (terminal_ == nullptr || !terminal_->IsRunning()) return;
-  EXPECT_TRUE(Holds([] { return client::LiveObjects() == 0; }, std::chrono::seconds(5)))
+  EXPECT_TRUE(Holds([] { return client::LiveObjects() == 0; }))
       << "the program left objects in the terminal";
 }
 
@@ -107,7 +107,7 @@ void Stage::Work(const std::wstring& lines) {
 void Stage::WorkLikeTheOrdinaryAgent() { Work(ProjectFile(L"practice\\pnrs\\ordinary.agent")); }
 
 DWORD Stage::ExitCode() const {
-  EXPECT_TRUE(Holds([this] { return !program_->IsRunning(); }, std::chrono::seconds(5)))
+  EXPECT_TRUE(Holds([this] { return !program_->IsRunning(); }, std::chrono::seconds(60)))
       << "the program does not end";
   return program_->ExitCode();
 }

@@ -32,7 +32,8 @@ class Stage {
   /// Starts the program and has a written agent do its lines.
   void Work(const std::wstring& lines);
   void WorkLikeTheOrdinaryAgent();
-  /// The exit code of a program that has nothing left to do: it ends within 5 seconds.
+  /// The exit code of a program that asks for nothing more; it may have all its writing to do, on a
+  /// busy machine.
   DWORD ExitCode() const;
 
   /// What the host was asked, in order; without the first, which is for the office.
