@@ -121,10 +121,7 @@ std::size_t Masking::EndOfValue(std::wstring_view text, std::size_t from) const 
 }
 
 std::wstring Masking::Masked(std::wstring_view text) const {
-  return full_ ? L"<withheld>" : MaskedWords(text);
-}
-
-std::wstring Masking::MaskedWords(std::wstring_view text) const {
+  if (full_) return L"<withheld>";
   const std::vector<CardMark> cards = MarkCards(text);
   const std::wstring upper = common::UpperCase(text);
   std::wstring masked;

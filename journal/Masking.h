@@ -22,8 +22,6 @@ class Masking {
 
   /// A text from elsewhere as it may be written down.
   std::wstring Masked(std::wstring_view text) const;
-  /// Words of our own: what is known is masked in them, but they are never withheld.
-  std::wstring MaskedWords(std::wstring_view text) const;
 
  private:
   /// `folded` is without blanks, in upper case.

@@ -70,7 +70,7 @@ void Writer::Write(std::wstring_view words, std::wstring_view text) {
 }
 
 std::wstring Writer::Line(std::wstring_view words) const {
-  return TimeText(clock_.Now().time) + L" " + Printable(masking_.MaskedWords(words));
+  return TimeText(clock_.Now().time) + L" " + Printable(words);
 }
 
 void Writer::Secure() {
@@ -84,7 +84,7 @@ void Writer::NameAfter(std::wstring_view locator) {
 }
 
 void Writer::Finish() {
-  if (!locator_.empty() && !named_) Rename();
+  if (file_ != nullptr && !locator_.empty() && !named_) Rename();
 }
 
 void Writer::Rename() {
@@ -101,9 +101,10 @@ bool Writer::Named(std::wstring_view locator, const Try& tryName) const {
   return naming == Naming::kDone;
 }
 
-// One write a line: two programs never mix theirs, and no line is there by halves.
+// One write a line: two programs never mix theirs, and no line is there by halves, but for the last
+// one of a disk that is full: what came behind half a line would pass for its end.
 void Writer::Append(std::wstring_view text) {
-  if (file_ != nullptr) file_->Append(common::ToUtf8(text));
+  if (file_ != nullptr && !file_->Append(common::ToUtf8(text))) file_ = nullptr;
 }
 
 }  // namespace journal

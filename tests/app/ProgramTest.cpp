@@ -1,5 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <optional>
+#include <stdexcept>
+#include <utility>
+
 #include "app/Program.h"
 #include "hostlib/Operations.h"
 #include "tests/support/FakeDesktop.h"
@@ -47,6 +51,41 @@ TEST(RunProgram, AFailureBeforeThereIsAReporterIsTheEntryProceduresBoxAndTheEnd)
   EXPECT_EQ(bench.Run(), 0);
   EXPECT_EQ(bench.desktop.log,
             Lines{L"box 16 \"  PTA Script \" \"Error initiating script!\" -> 1"});
+}
+
+/// Its first box fails, and with it the report that it was to show.
+template <typename Failure>
+class DesktopWithoutAFirstBox : public support::FakeDesktop {
+ public:
+  explicit DesktopWithoutAFirstBox(Failure failure) : failure_(std::move(failure)) {}
+
+  int ShowBox(std::wstring_view text, int style, std::wstring_view title) override {
+    if (failure_) {
+      const Failure failure = *std::exchange(failure_, {});
+      throw failure;
+    }
+    return FakeDesktop::ShowBox(text, style, title);
+  }
+
+ private:
+  std::optional<Failure> failure_;
+};
+
+template <typename Failure>
+void ExpectTold(Failure failure, const wchar_t* words) {
+  Bench bench;
+  bench.library.Answer(hostlib::operations::script_global::kAttach, L"no boolean");
+  DesktopWithoutAFirstBox<Failure> desktop(std::move(failure));
+  EXPECT_EQ(RunProgram(bench.library, desktop, bench.platform), 1);
+  EXPECT_EQ(
+      desktop.log,
+      Lines{L"box 16 \"  PTA Script \" \"The script ended because of an unexpected failure.\r\r" +
+            std::wstring(words) + L"\" -> 1"});
+}
+
+TEST(RunProgram, AnUnexpectedFailureIsToldInItsOwnWordsAndEndsTheProgramWithOne) {
+  ExpectTold(std::runtime_error("no memory"), L"no memory");
+  ExpectTold(common::RunTimeError(L"no window"), L"no window");
 }
 
 }  // namespace

@@ -285,6 +285,19 @@ TEST_F(JournalHookTest, WithholdsTextsButNoStatesWhenADisplayShowsMoreThanThereI
   EXPECT_EQ(bench.folder.Text().find(L"VALUE"), std::wstring::npos);
 }
 
+TEST_F(JournalHookTest, KeepsItsOwnWordsWhateverADisplayShowsAsAFormOfPayment) {
+  SessionAnswers(L"FP UNKNOWN\r\nFP 1\r\nFP NOT JUDGED\r\nFP ABC123\r\nFP STOSK08AA");
+  session.SendEntry(L"RT");
+  scripted.Answer(operations::pnr_reader::kGetRecordLocator, Value(L"ABC123"));
+  hostlib::PnrReader(library).GetRecordLocator();
+  hook.Finish();
+  EXPECT_THAT(
+      bench.OwnLines(),
+      ElementsAre(L"Entry 1 by SendEntry:", L"Entry 1 answered after 0.000 s:",
+                  L"Record locator \"<payment>\"", L"Entry 1 not judged",
+                  L"Entries: 1, accepted 0, refused 0, unknown 0, not judged 1", L"Not judged: 1"));
+}
+
 TEST_F(JournalHookTest, TakesOnlyTheSessionsOperationsForEntries) {
   std::vector<std::wstring> names;
   for (const EntryOperation& entry : EntryOperations()) {

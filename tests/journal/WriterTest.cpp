@@ -41,15 +41,29 @@ TEST_F(WriterTest, LetsNoTextPassForALineOfOurs) {
             L"    | A\uFFFD2\uFFFD\uFFFD[2J\uFFFD\n");
 }
 
-TEST_F(WriterTest, MasksItsWordsToo) {
+TEST_F(WriterTest, MasksTextsAndNotItsOwnWords) {
   writer.Open(L"1.2.3");
-  writer.masking().Declare(L"INVOICE");
-  writer.Write(L"Office \"invoice\"");
-  writer.Write(L"Record locator \"4929876538712343\"", L"FP INVOICE");
+  for (const wchar_t* payment : {L"INVOICE", L"ACCEPTED", L"UNKNOWN", L"1"}) {
+    writer.masking().Declare(payment);
+  }
+  writer.Write(L"Entry 1 accepted");
+  writer.Write(L"Unknown: 1", L"FP INVOICE");
   EXPECT_EQ(Body(),
-            L"13:37:00.000 Office \"<payment>\"\n"
-            L"13:37:00.000 Record locator \"************2343\":\n"
+            L"13:37:00.000 Entry 1 accepted\n"
+            L"13:37:00.000 Unknown: 1:\n"
             L"    | FP <payment>\n");
+}
+
+TEST_F(WriterTest, WritesNothingBehindALineThatTheDiskDidNotTakeWhole) {
+  writer.Open(L"1.2.3");
+  writer.Write(L"Before");
+  folder.takesText = false;
+  writer.Write(L"Lost");
+  folder.takesText = true;
+  writer.Write(L"After");
+  writer.NameAfter(L"ABC123");
+  writer.Finish();
+  EXPECT_EQ(Body(), L"13:37:00.000 Before\n");
 }
 
 TEST_F(WriterTest, GoesOnInTheSameFileUnderTheBookingsName) {

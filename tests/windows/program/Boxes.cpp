@@ -21,15 +21,21 @@ void PressOk(HWND box) {
 }
 
 std::vector<SeenBox> BoxesToTheEnd(const Program& program) {
+  using Clock = std::chrono::steady_clock;
   std::vector<SeenBox> boxes;
+  Clock::time_point answered;
   for (;;) {
     HWND box = nullptr;
     WaitUntil(L"the program shows a box or ends", [&] {
       box = program.Box();
       return box != nullptr || !program.IsRunning();
     });
-    if (box == nullptr) return boxes;
+    if (box == nullptr) {
+      if (!boxes.empty()) EXPECT_LT(Clock::now() - answered, std::chrono::seconds(5));
+      return boxes;
+    }
     boxes.push_back({common::WithLineFeeds(BoxText(box)), BoxIcon(box) != nullptr, TextOf(box)});
+    answered = Clock::now();
     PressOk(box);
   }
 }

@@ -20,7 +20,8 @@ void PrintTo(const SeenBox& box, std::ostream* out);
 
 /// Answers the box with OK.
 void PressOk(HWND box);
-/// Answers all boxes with OK until the program ends, and gives them in their order.
+/// Answers all boxes with OK until the program ends, within 5 seconds of the last answer, and gives
+/// them in their order.
 std::vector<SeenBox> BoxesToTheEnd(const Program& program);
 /// No process of this program runs any more, or soon.
 void ExpectNothingRuns(const std::wstring& name);

@@ -42,7 +42,7 @@ class AKilledTerminal : public testing::Test {
   /// The program shows these boxes, and ends.
   void EndsWith(const std::vector<SeenBox>& boxes) {
     EXPECT_EQ(BoxesToTheEnd(stage_.program()), boxes);
-    EXPECT_EQ(stage_.ExitCode(), 0u);
+    EXPECT_EQ(stage_.ExitCodeSoon(), 0u);
     ExpectNothingRuns(L"PTA_QX.exe");
   }
 

@@ -32,14 +32,14 @@ TEST_F(LinkFailure, WithoutALibraryTheAgentIsAskedToStartATerminal) {
   const terminal::Unregistered nothing;
   stage_.emplace(nullptr).Start();
   SeeBox(kNotConnected);
-  EXPECT_EQ(stage_->ExitCode(), 0u);
+  EXPECT_EQ(stage_->ExitCodeSoon(), 0u);
   ExpectNothingRuns(terminal::kPracticeTerminal);
 }
 
 TEST_F(LinkFailure, WithoutATerminalToo) {
   stage_.emplace(nullptr).Start();
   SeeBox(kNotConnected);
-  EXPECT_EQ(stage_->ExitCode(), 0u);
+  EXPECT_EQ(stage_->ExitCodeSoon(), 0u);
   ExpectNothingRuns(terminal::kPracticeTerminal);
 }
 
@@ -47,7 +47,7 @@ TEST_F(LinkFailure, ATerminalThatWasClosedBeforeIsNone) {
   stage_.emplace().CloseTerminal();
   stage_->Start();
   SeeBox(kNotConnected);
-  EXPECT_EQ(stage_->ExitCode(), 0u);
+  EXPECT_EQ(stage_->ExitCodeSoon(), 0u);
   ExpectNothingRuns(terminal::kPracticeTerminal);
 }
 
@@ -58,7 +58,7 @@ TEST_F(LinkFailure, ATerminalThatIsClosedWhileTheDialogIsOpenFailsTheFirstChange
   stage_->CloseTerminal();
   Click(Item(dialog, ID_cmdOK));
   SeeBox(L"Error when updating the Ticketing Element!");
-  EXPECT_EQ(stage_->ExitCode(), 0u);
+  EXPECT_EQ(stage_->ExitCodeSoon(), 0u);
   ExpectNothingRuns(terminal::kPracticeTerminal);
 }
 
@@ -68,13 +68,13 @@ TEST_F(LinkFailure, ATerminalThatIsClosedWhileTheDialogIsOpenDoesNotHoldCancelUp
   WaitForFocus(Item(dialog, ID_txtPTA));
   stage_->CloseTerminal();
   Click(Item(dialog, ID_cmdCancel));
-  EXPECT_EQ(stage_->ExitCode(), 0u);
+  EXPECT_EQ(stage_->ExitCodeSoon(), 0u);
   ExpectNothingRuns(terminal::kPracticeTerminal);
 }
 
 TEST_F(LinkFailure, ATerminalThatIsClosedAfterTheRunLeavesNothing) {
   stage_.emplace().Work(L"form frmPTA\nclick cmdCancel\n");
-  EXPECT_EQ(stage_->ExitCode(), 0u);
+  EXPECT_EQ(stage_->ExitCodeSoon(), 0u);
   EXPECT_EQ(terminal::Running(), 1);
   stage_->CloseTerminal();
   ExpectNothingRuns(terminal::kPracticeTerminal);
@@ -90,7 +90,7 @@ TEST_F(LinkFailure, ATerminalThatIsClosedInTheMiddleOfAnEntryFailsThatStep) {
             (std::vector<SeenBox>{{L"Error when sending the PV transaction."},
                                   {L"Unable to retrieve the PNR.\nMake sure there is an active "
                                    L"PNR.\nThe program will terminate."}}));
-  EXPECT_EQ(stage_->ExitCode(), 0u);
+  EXPECT_EQ(stage_->ExitCodeSoon(), 0u);
   ExpectNothingRuns(terminal::kPracticeTerminal);
 }
 
@@ -108,7 +108,7 @@ TEST_P(LibraryThatDoesNotFit, IsRefusedWithItsSlotBeforeAnythingIsSent) {
   SeeBox(std::wstring(L"The installed Vantel script library is not the one that this program "
                       L"needs.\n\n") +
          GetParam().words);
-  EXPECT_EQ(stage_->ExitCode(), 1u);
+  EXPECT_EQ(stage_->ExitCodeSoon(), 1u);
   ExpectNothingRuns(GetParam().terminal);
 }
 

@@ -106,11 +106,14 @@ void Stage::Work(const std::wstring& lines) {
 
 void Stage::WorkLikeTheOrdinaryAgent() { Work(ProjectFile(L"practice\\pnrs\\ordinary.agent")); }
 
-DWORD Stage::ExitCode() const {
-  EXPECT_TRUE(Holds([this] { return !program_->IsRunning(); }, std::chrono::seconds(60)))
-      << "the program does not end";
+DWORD Stage::ExitCodeWithin(std::chrono::seconds time) const {
+  EXPECT_TRUE(Holds([this] { return !program_->IsRunning(); }, time)) << "the program does not end";
   return program_->ExitCode();
 }
+
+DWORD Stage::ExitCode() const { return ExitCodeWithin(std::chrono::seconds(60)); }
+
+DWORD Stage::ExitCodeSoon() const { return ExitCodeWithin(std::chrono::seconds(5)); }
 
 std::vector<std::wstring> Stage::Entries() const {
   std::vector<std::wstring> entries = terminal_->Entries();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <memory>
 #include <string>
 #include <vector>
@@ -35,6 +36,8 @@ class Stage {
   /// The exit code of a program that asks for nothing more; it may have all its writing to do, on a
   /// busy machine.
   DWORD ExitCode() const;
+  /// That of a program that has nothing left to do: it ends within 5 seconds.
+  DWORD ExitCodeSoon() const;
 
   /// What the host was asked, in order; without the first, which is for the office.
   std::vector<std::wstring> Entries() const;
@@ -46,6 +49,7 @@ class Stage {
   static std::wstring WithLineFeeds(std::wstring text);
 
  private:
+  DWORD ExitCodeWithin(std::chrono::seconds time) const;
   TerminalPtr terminal_;
   std::wstring folder_;
   std::unique_ptr<Program> program_;
