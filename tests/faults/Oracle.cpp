@@ -1,6 +1,7 @@
 #include "tests/faults/Oracle.h"
 
 #include <algorithm>
+#include <set>
 
 #include "tests/faults/RuledBoxes.h"
 
@@ -145,11 +146,20 @@ Complaints OnTheLostSession(const Shown& undisturbed, const Shown& shown) {
   return {L"with a lost session the run has sent something of its own"};
 }
 
-Complaints OnTheAgentsKnowledge(const Timeline& timeline) {
-  const bool told = std::ranges::any_of(timeline, [](const Event& event) {
-    return event.kind == Event::Kind::kBox && event.afterFault;
-  });
-  if (told) return {};
+Complaints OnTheAgentsKnowledge(const Timeline& undisturbed, const Timeline& shown) {
+  std::multiset<std::wstring> ordinary;
+  for (const Event& event : undisturbed) {
+    if (event.kind == Event::Kind::kBox) ordinary.insert(event.text);
+  }
+  for (const Event& event : shown) {
+    if (event.kind != Event::Kind::kBox) continue;
+    const auto known = ordinary.find(event.text);
+    if (known != ordinary.end()) {
+      ordinary.erase(known);
+    } else if (event.afterFault) {
+      return {};
+    }
+  }
   return {L"the agent was not told"};
 }
 
@@ -162,7 +172,9 @@ Complaints Judge(Replays& replays, const Shown& undisturbed, const Shown& shown,
   Append(found, OnThePNR(replays, shown));
   if (fault.place == 0) return found;
   if (!shown.struck) found.push_back(L"the fault did not come");
-  if (IsError(fault.way)) Append(found, OnTheAgentsKnowledge(shown.timeline));
+  if (IsError(fault.way)) {
+    Append(found, OnTheAgentsKnowledge(undisturbed.timeline, shown.timeline));
+  }
   const bool loses = fault.way == Way::kLibraryGone || fault.way == Way::kLibraryReplaced ||
                      fault.way == Way::kSessionLost || fault.way == Way::kAnswerLost;
   if (loses) Append(found, OnTheLostSession(undisturbed, shown));

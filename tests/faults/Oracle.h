@@ -44,8 +44,8 @@ Complaints OnTheEntries(const Shown& shown);
 Complaints OnThePNR(Replays& replays, const Shown& shown);
 /// When the session is lost, what was sent until then is what an undisturbed run sends.
 Complaints OnTheLostSession(const Shown& undisturbed, const Shown& shown);
-/// The agent has seen a box since the fault came.
-Complaints OnTheAgentsKnowledge(const Timeline& timeline);
+/// The agent has seen a box since the fault came that an undisturbed run does not show.
+Complaints OnTheAgentsKnowledge(const Timeline& undisturbed, const Timeline& shown);
 
 /// All of them, as far as they concern the fault.
 Complaints Judge(Replays& replays, const Shown& undisturbed, const Shown& shown, Fault fault);

@@ -87,10 +87,19 @@ TEST(Oracle, FindsAPNRThatTheEntriesDoNotExplain) {
 }
 
 TEST(Oracle, FindsAnAgentWhoWasNotTold) {
-  Event before = Box(kTicketing, 16);
-  EXPECT_THAT(OnTheAgentsKnowledge({before}), ElementsAre(L"the agent was not told"));
-  before.afterFault = true;
-  EXPECT_THAT(OnTheAgentsKnowledge({before}), IsEmpty());
+  const Event before = Box(kTicketing, 16);
+  EXPECT_THAT(OnTheAgentsKnowledge({}, {before}), ElementsAre(L"the agent was not told"));
+  Event after = before;
+  after.afterFault = true;
+  EXPECT_THAT(OnTheAgentsKnowledge({}, {after}), IsEmpty());
+}
+
+TEST(Oracle, TakesNoBoxOfAnOrdinaryRunForTheFaults) {
+  const Event ordinary = Box(kTicketing, 16);
+  Event after = ordinary;
+  after.afterFault = true;
+  EXPECT_THAT(OnTheAgentsKnowledge({ordinary}, {after}), ElementsAre(L"the agent was not told"));
+  EXPECT_THAT(OnTheAgentsKnowledge({ordinary}, {ordinary, after}), IsEmpty());
 }
 
 TEST(Oracle, FindsWhatIsLeftBehind) {
