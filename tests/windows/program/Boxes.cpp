@@ -31,7 +31,9 @@ std::vector<SeenBox> BoxesToTheEnd(const Program& program) {
       return box != nullptr || !program.IsRunning();
     });
     if (box == nullptr) {
-      if (!boxes.empty()) EXPECT_LT(Clock::now() - answered, std::chrono::seconds(5));
+      if (!boxes.empty()) {
+        EXPECT_LT(Clock::now() - answered, std::chrono::seconds(5));
+      }
       return boxes;
     }
     boxes.push_back({common::WithLineFeeds(BoxText(box)), BoxIcon(box) != nullptr, TextOf(box)});
