@@ -23,6 +23,7 @@ std::optional<PnrLine> ReadLine(const std::wstring& whole) {
   line.code = whole.substr(code, blank - code);
   std::wstring text = whole.substr(blank);
   line.association = display_lines::TakeAssociationWords(text);
+  if (text.empty()) return std::nullopt;
   line.text = text.substr(1);
   return line;
 }

@@ -95,5 +95,18 @@ TEST(DamagedDisplays, WhatLooksLikeADisplayButHasNothingInItsLinesIsNotTaken) {
   ReadFares(bench, L"TSM LIST 1\r\n99999,1,,,,,,\r\nEND OF LIST");
 }
 
+TEST(DamagedDisplays, OfAPNRWithAnElementThatIsAllAssociationCanNotBeRead) {
+  LibraryBench bench;
+  bench.host.faults.garbage = {{bench.host.EntryCount() + 1,
+                                L"PNR ABC123 OFFICE ARNAG2100\r\n1.SMITH/JOHN MR\r\n"
+                                L"2 RMTEXT [P1]\r\nEND OF PNR"}};
+  try {
+    bench.session.LoadPNR();
+    FAIL() << "it was read";
+  } catch (const hostlib::LibraryError& error) {
+    EXPECT_EQ(error.description(), L"The PNR can not be read: PNR ABC123 OFFICE ARNAG2100");
+  }
+}
+
 }  // namespace
 }  // namespace practice
