@@ -94,6 +94,11 @@ TEST(Operations, NoTwoStandInTheSamePlace) {
   EXPECT_EQ(FindOperation(L"PnrReader", 1, 7), nullptr);
 }
 
+// The check of the library makes an object of the first class, which the run then need not make.
+TEST(Operations, TheFirstAreThoseOfTheObjectThatARunMakesFirst) {
+  EXPECT_EQ(AllOperations().front().object, operations::script_global::kClass);
+}
+
 TEST(Facade, AnObjectThatWasReleasedFailsBeforeAnythingIsSent) {
   Bench bench;
   TerminalSession session;
