@@ -122,9 +122,13 @@ void MainModule::EndIfStopped() {
   if (common_.stop.isSet) EndScript();
 }
 
-void MainModule::EndScript() {
+void MainModule::UnloadForms() {
   frmWorking_.Unload();
   frmPTA_.Unload();
+}
+
+void MainModule::EndScript() {
+  UnloadForms();
   throw common::EndOfRun();
 }
 

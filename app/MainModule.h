@@ -25,6 +25,7 @@ class MainModule : public common::RunEnd, public ui::PTADialogActions {
   /// exception where the rules say so.
   void Main();
 
+  void UnloadForms() override;
   [[noreturn]] void EndScript() override;
   [[noreturn]] void EndAtOnce() override;
 

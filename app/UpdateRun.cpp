@@ -27,7 +27,7 @@ void UpdateRun::Start() {
     TakeDialog(officeID);
     Perform(officeID, queue);
     dialog_.Hide();
-    runEnd_.EndScript();
+    runEnd_.UnloadForms();
   });
 }
 

@@ -11,7 +11,11 @@ class RunEnd {
  public:
   virtual ~RunEnd() = default;
 
-  /// Unloads the forms and ends the run. Does not return.
+  /// The end after the run's last step: unloads the forms. The program ends by itself when no
+  /// window is left, so that nothing has to be thrown through the dialog that is still being
+  /// served.
+  virtual void UnloadForms() = 0;
+  /// Unloads the forms and ends the run wherever it stands. Does not return.
   [[noreturn]] virtual void EndScript() = 0;
   /// Ends the program at once, without the end procedure; what is held is still released.
   [[noreturn]] virtual void EndAtOnce() = 0;

@@ -39,10 +39,19 @@ struct UpdateRunBench : support::RoomBench {
   void AnswerFlag(const hostlib::Operation& operation, std::wstring_view key) {
     scripted.Answer(operation, hostlib::ObjectPtr(scripted.Bag({{key, true}})));
   }
-  /// The calls of the run, which must have ended by the end procedure.
+  /// The calls of the run, after whose last step the forms must have been unloaded.
   Lines Run() {
     TakeCalls();
+    const int before = runEnd.unloads;
+    rooms.updateRun.Start();
+    EXPECT_EQ(runEnd.unloads, before + 1);
+    return TakeCalls();
+  }
+  /// The calls of a run that a failure breaks off.
+  Lines RunThatFails() {
+    TakeCalls();
     EXPECT_THROW(rooms.updateRun.Start(), support::EndedByEndScript);
+    EXPECT_EQ(runEnd.unloads, 0);
     return TakeCalls();
   }
   bool IsLHAfter(std::wstring_view officeID) {
@@ -142,7 +151,7 @@ TEST(UpdateRun, AFailureOfItsOwnIsReportedAndEndsTheRun) {
   ViewFailingAtTheEnd view(common::RunTimeError(L"no window"));
   UpdateRunBench bench;
   bench.dialog.Shown(view);
-  EXPECT_EQ(bench.Run().back(),
+  EXPECT_EQ(bench.RunThatFails().back(),
             L"ScriptErrorReporter.1.18 ShowError(-2147221452, \"  PTA Script \", \"Error when "
             L"performing the updates!\", 16)");
 }
@@ -153,7 +162,7 @@ TEST(UpdateRun, AFailureOfTheLibraryShowsTheLibrarysLastErrorAndEndsTheRun) {
   bench.scripted.lastError.number = 77;
   bench.scripted.lastError.text = L"library broken";
   bench.dialog.Shown(view);
-  EXPECT_EQ(bench.Run().back(),
+  EXPECT_EQ(bench.RunThatFails().back(),
             L"ScriptErrorReporter.1.12 ShowMessage(77, \"  PTA Script \", \"library broken\")");
 }
 

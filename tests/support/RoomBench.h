@@ -15,8 +15,11 @@ struct EndedAtOnce {};
 
 class ThrowingRunEnd : public common::RunEnd {
  public:
+  void UnloadForms() override { ++unloads; }
   [[noreturn]] void EndScript() override { throw EndedByEndScript(); }
   [[noreturn]] void EndAtOnce() override { throw EndedAtOnce(); }
+
+  int unloads = 0;  ///< how often the forms were unloaded after the last step
 };
 
 /// What nearly every room is built on, for tests of one room: a scripted library behind a recorder,

@@ -18,6 +18,7 @@ using Lines = std::vector<std::wstring>;
 class ReleaseWatchingRunEnd : public common::RunEnd {
  public:
   explicit ReleaseWatchingRunEnd(const hostlib::Recorder& recorder) : recorder_(recorder) {}
+  void UnloadForms() override { ADD_FAILURE() << "an update is not the run's last step"; }
   [[noreturn]] void EndScript() override {
     heldAtEnd = recorder_.LiveObjects();
     throw support::EndedByEndScript();

@@ -16,8 +16,10 @@ DialogStage::DialogStage() : desktop(GetModuleHandleW(nullptr), common::kTitle) 
 
 DialogStage::~DialogStage() { form.Hide(); }
 
+void DialogStage::UnloadForms() { form.Unload(); }
+
 void DialogStage::EndScript() {
-  form.Unload();
+  UnloadForms();
   throw common::EndOfRun();
 }
 

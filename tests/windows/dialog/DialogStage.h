@@ -52,6 +52,7 @@ class DialogStage : private common::RunEnd {
 
  private:
   // Ends the run the way the program does.
+  void UnloadForms() override;
   [[noreturn]] void EndScript() override;
   [[noreturn]] void EndAtOnce() override;
 
