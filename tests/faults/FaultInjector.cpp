@@ -1,6 +1,9 @@
 #include "tests/faults/FaultInjector.h"
 
+#include <utility>
+
 #include "common/ConstDefintions.h"
+#include "hostlib/ScriptErrorReporter.h"
 
 namespace faults {
 
@@ -22,6 +25,20 @@ bool IsEntry(const CallInfo& call) {
 std::wstring EntryOf(const CallInfo& call) {
   return call.arguments.empty() ? L"RT" : call.arguments[0].Text();
 }
+
+/// As long as the box of a last error may stand on the screen.
+class Showing {
+ public:
+  Showing(std::optional<LastErrorShown>& shown, LastErrorShown now) : shown_(shown) {
+    shown_ = std::move(now);
+  }
+  ~Showing() { shown_.reset(); }
+  Showing(const Showing&) = delete;
+  Showing& operator=(const Showing&) = delete;
+
+ private:
+  std::optional<LastErrorShown>& shown_;
+};
 
 CallSite SiteOfCreation(std::wstring_view className) {
   CallSite site;
@@ -54,7 +71,8 @@ void FaultInjector::BeforeCreation(std::wstring_view className) {
 }
 
 Value FaultInjector::OnCallOfTheOther(const CallInfo& call, const std::function<Value()>& proceed) {
-  return call.object == reporter::kClass ? Report(call, proceed) : proceed();
+  const bool wasRead = std::exchange(lastErrorRead_, false);
+  return call.object == reporter::kClass ? Report(call, wasRead, proceed) : proceed();
 }
 
 Value FaultInjector::OnCall(const CallInfo& call, const std::function<Value()>& proceed) {
@@ -79,10 +97,14 @@ Value FaultInjector::OnCall(const CallInfo& call, const std::function<Value()>& 
 }
 
 Value FaultInjector::Perform(const CallInfo& call, const std::function<Value()>& proceed) {
+  const bool wasRead = std::exchange(lastErrorRead_, false);
   const bool strikes = calls_ == fault_.place;
   const bool isReporter = call.object == reporter::kClass;
   FailIfDown(isReporter, call.object == session::kClass);
-  if (isReporter) return strikes ? Strike(proceed) : Report(call, proceed);
+  if (isReporter) {
+    const auto report = [&] { return Report(call, wasRead, proceed); };
+    return strikes ? Strike(report) : report();
+  }
   lastError_.reset();
   return strikes ? Strike(proceed) : proceed();
 }
@@ -118,7 +140,8 @@ void FaultInjector::FailIfDown(bool isReporter, bool isSession) {
 }
 
 // The reporter tells of the fault as it would of a failure of the library's own.
-Value FaultInjector::Report(const CallInfo& call, const std::function<Value()>& proceed) {
+Value FaultInjector::Report(const CallInfo& call, bool wasRead,
+                            const std::function<Value()>& proceed) {
   if (call.slot == reporter::kLastErrorText.slot) {
     lastErrorRead_ = true;
     return lastError_ ? Value(lastError_->text) : proceed();
@@ -126,17 +149,24 @@ Value FaultInjector::Report(const CallInfo& call, const std::function<Value()>& 
   if (call.slot == reporter::kLastErrorNumber.slot) {
     return lastError_ ? Value(lastError_->number) : proceed();
   }
-  const bool reportsLast = call.slot == reporter::kReportLastError.slot;
-  showsLastError_ = reportsLast || lastErrorRead_;
-  lastErrorRead_ = false;
-  Value answer;
-  if (reportsLast && lastError_) {
-    boxes_.ShowBox(lastError_->text, common::kCritical, common::kTitle);
-  } else {
-    answer = proceed();
-  }
-  showsLastError_ = false;
-  return answer;
+  if (call.slot == reporter::kReportLastError.slot) return ShowLastError(false, proceed);
+  const bool showsIt = wasRead && call.slot == reporter::kShowMessage.slot;
+  return showsIt ? ShowLastError(true, proceed) : proceed();
+}
+
+Value FaultInjector::ShowLastError(bool byProgram, const std::function<Value()>& proceed) {
+  const Showing showing(shown_, {LastErrorText(), byProgram});
+  if (byProgram || !lastError_) return proceed();
+  boxes_.ShowBox(lastError_->text, common::kCritical, common::kTitle);
+  return {};
+}
+
+// From the library itself: what the program was told may be what went wrong.
+std::wstring FaultInjector::LastErrorText() const {
+  if (lastError_) return lastError_->text;
+  hostlib::ScriptErrorReporter reporter;
+  reporter.Create(IsReplaced() ? *other_ : *library_);
+  return reporter.LastErrorText();
 }
 
 void FaultInjector::Fail(bool withNumber) {

@@ -19,7 +19,8 @@ struct Fault {
 inline constexpr std::wstring_view kFaultText = L"The library failed as it was told to";
 
 /// Stands before a library, counts its calls and the making of its objects, and lets one of them
-/// fail. Writes the entries into the timeline and knows when a box shows the last error.
+/// fail. Writes the entries into the timeline, and knows when a box is to show the last error and
+/// what that says.
 class FaultInjector : public hostlib::CallHook {
  public:
   FaultInjector(Fault fault, common::MessageBoxes& boxes, Timeline& timeline)
@@ -29,7 +30,13 @@ class FaultInjector : public hostlib::CallHook {
   /// nobody asks, and there are tens of thousands.
   const std::vector<CallSite>& sites() const { return sites_; }
   bool HasStruck() const { return struck_; }
-  bool ShowsLastError() const { return showsLastError_; }
+  /// Of the box that stands on the screen now, when it is to show the library's last error.
+  const std::optional<LastErrorShown>& lastErrorShown() const { return shown_; }
+  /// Where the injector asks what the last error says when it is none of its own.
+  void AskOfLastErrors(hostlib::Library& library, hostlib::Library& other) {
+    library_ = &library;
+    other_ = &other;
+  }
 
   void BeforeCreation(std::wstring_view className);
   hostlib::Value OnCall(const hostlib::CallInfo& call,
@@ -51,8 +58,10 @@ class FaultInjector : public hostlib::CallHook {
                          const std::function<hostlib::Value()>& proceed);
   hostlib::Value Strike(const std::function<hostlib::Value()>& proceed);
   void FailIfDown(bool isReporter, bool isSession);
-  hostlib::Value Report(const hostlib::CallInfo& call,
+  hostlib::Value Report(const hostlib::CallInfo& call, bool wasRead,
                         const std::function<hostlib::Value()>& proceed);
+  hostlib::Value ShowLastError(bool byProgram, const std::function<hostlib::Value()>& proceed);
+  std::wstring LastErrorText() const;
   [[noreturn]] void Fail(bool withNumber);
   bool IsUndisturbed() const { return fault_.place == 0; }
 
@@ -63,8 +72,10 @@ class FaultInjector : public hostlib::CallHook {
   int calls_ = 0;
   bool struck_ = false;
   std::optional<LastError> lastError_;
-  bool lastErrorRead_ = false;
-  bool showsLastError_ = false;
+  bool lastErrorRead_ = false;  ///< by the call before this one: it is about to be shown
+  std::optional<LastErrorShown> shown_;
+  hostlib::Library* library_ = nullptr;
+  hostlib::Library* other_ = nullptr;
 };
 
 /// A library with the injector before it, and the other one that may take its place.
@@ -74,7 +85,9 @@ class FaultyLibrary : public hostlib::Library {
       : injector_(injector),
         hooked_(inner, injector),
         hookOfTheOther_(injector),
-        other_(other, hookOfTheOther_) {}
+        other_(other, hookOfTheOther_) {
+    injector.AskOfLastErrors(inner, other);
+  }
   hostlib::ObjectPtr Create(std::wstring_view className) override {
     injector_.BeforeCreation(className);
     return injector_.IsReplaced() ? other_.Create(className) : hooked_.Create(className);

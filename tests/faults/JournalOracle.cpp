@@ -196,8 +196,9 @@ class Judgement {
     auto box = boxes_.begin();
     for (const Event& event : shown_.timeline) {
       if (event.kind != Event::Kind::kBox) continue;
-      // Of the library's own last error the journal knows only the failure that it saw last.
-      if (!event.lastError && !IsShown(box->text, event.text)) {
+      // What the library shows by itself the journal knows only by the failure that it saw last.
+      const bool isTheLibrarys = event.lastError && !event.lastError->byProgram;
+      if (!isTheLibrarys && !IsShown(box->text, event.text)) {
         found_.push_back(L"another box: " + box->text.substr(0, 100));
       }
       ++box;

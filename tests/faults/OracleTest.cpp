@@ -23,6 +23,13 @@ Event Box(std::wstring text, int style) {
           .title = std::wstring(common::kTitle)};
 }
 
+/// A box that is to show the last error, which says this.
+Event LastErrorBox(std::wstring text, std::wstring says, bool byProgram) {
+  Event box = Box(std::move(text), common::kCritical);
+  box.lastError = LastErrorShown{std::move(says), byProgram};
+  return box;
+}
+
 constexpr const wchar_t* kTicketing = L"Error when updating the Ticketing Element!";
 
 practice::RehearsalScene Scene() { return RecordedRuns().front().scene(); }
@@ -43,6 +50,34 @@ TEST(Oracle, FindsABoxThatNoRuleNames) {
 TEST(Oracle, FindsTheBoxOfAnUnexpectedFailure) {
   const Event box = Box(L"The script ended because of an unexpected failure.\r\rx", 16);
   EXPECT_THAT(OnTheBoxes({box}), SizeIs(1));
+}
+
+TEST(Oracle, FindsALastErrorWithAnotherText) {
+  EXPECT_THAT(OnTheBoxes({LastErrorBox(L"Something else", L"Session lost", true)}),
+              ElementsAre(L"no rule names the box 16 \"  PTA Script \" \"Something else\""));
+  EXPECT_THAT(OnTheBoxes({LastErrorBox(L"Something else", L"Session lost", false)}), SizeIs(1));
+  EXPECT_THAT(OnTheBoxes({LastErrorBox(L"Session lost", L"Session lost", true)}), IsEmpty());
+  EXPECT_THAT(OnTheBoxes({LastErrorBox(L"Session lost", L"Session lost", false)}), IsEmpty());
+}
+
+TEST(Oracle, FindsALastErrorInAnotherForm) {
+  Event box = LastErrorBox(L"Session lost", L"Session lost", false);
+  box.style = 48;
+  EXPECT_THAT(OnTheBoxes({box}), SizeIs(1));
+  box.style = 16;
+  box.title = L"PTA";
+  EXPECT_THAT(OnTheBoxes({box}), SizeIs(1));
+}
+
+TEST(Oracle, FindsAnEntryAfterALastErrorThatTheProgramHasShown) {
+  const Event box = LastErrorBox(L"Session lost", L"Session lost", true);
+  EXPECT_THAT(OnWhatIsSentAfterAnEnd({Entry(L"CH 6 TK OK"), box, Entry(L"BT")}),
+              ElementsAre(L"after the end by \"Session lost\" is sent \"BT\""));
+}
+
+TEST(Oracle, LetsTheRunGoOnAfterALastErrorThatTheLibraryHasShown) {
+  const Event box = LastErrorBox(L"Session lost", L"Session lost", false);
+  EXPECT_THAT(OnWhatIsSentAfterAnEnd({Entry(L"RT"), box, Entry(L"TQT")}), IsEmpty());
 }
 
 TEST(Oracle, FindsAnEntryAfterAReportThatEndsTheRun) {

@@ -42,7 +42,7 @@ int PatientAgent::ShowBox(std::wstring_view text, int style, std::wstring_view t
                        .style = style,
                        .title = std::wstring(title),
                        .cancelled = cancels,
-                       .lastError = injector_ != nullptr && injector_->ShowsLastError(),
+                       .lastError = injector_ ? injector_->lastErrorShown() : std::nullopt,
                        .question = asks ? questions_ : 0,
                        .afterFault = AfterFault()});
   return cancels ? common::kCancel : common::kOk;

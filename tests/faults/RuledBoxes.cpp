@@ -115,13 +115,16 @@ std::optional<BoxRule> ReportRule(const Event& box) {
   return std::nullopt;
 }
 
+std::optional<BoxRule> LastErrorRule(const Event& box) {
+  const bool inItsForm = box.style == common::kCritical && box.title == common::kTitle;
+  if (!inItsForm || box.text != box.lastError->says) return std::nullopt;
+  return BoxRule{box.lastError->byProgram};
+}
+
 }  // namespace
 
 std::optional<BoxRule> RuleOf(const Event& box) {
-  if (box.lastError) {
-    const bool inItsForm = box.style == common::kCritical && box.title == common::kTitle;
-    return inItsForm ? std::optional(BoxRule{false}) : std::nullopt;
-  }
+  if (box.lastError) return LastErrorRule(box);
   for (const OwnBox& own : kOwnBoxes) {
     const bool says = own.continued ? box.text.starts_with(own.text) : box.text == own.text;
     if (says && box.style == own.style && box.title == own.title) return BoxRule{own.endsRun};
