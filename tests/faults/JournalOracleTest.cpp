@@ -1,5 +1,7 @@
 #include <gmock/gmock.h>
 
+#include <algorithm>
+
 #include "common/Text.h"
 #include "tests/faults/JournalOracle.h"
 #include "tests/journal/JournalBench.h"
@@ -11,15 +13,22 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::SizeIs;
 
 /// A run of eight entries at least, with a box at its end.
 struct JournalOracle : testing::Test {
-  JournalOracle() {
+  JournalOracle() { Run({}); }
+  void Run(Fault fault) {
     journal::JournalBench bench;
     practice::RehearsalScene scene = run::SceneOf("write-closed-queue");
     bench.Attend(scene);
-    shown = Perform(scene);
+    shown = Perform(scene, fault);
     text = bench.folder.Text();
+  }
+  /// Which call of the run that is, from 1.
+  int PlaceOf(std::wstring_view call) const {
+    const auto site = std::ranges::find(shown.sites, call, &CallSite::name);
+    return static_cast<int>(site - shown.sites.begin()) + 1;
   }
   Complaints WithInstead(std::wstring_view old, std::wstring_view other) const {
     EXPECT_NE(text.find(old), text.npos);
@@ -64,6 +73,26 @@ TEST_F(JournalOracle, FindsAnotherText) {
   EXPECT_THAT(WithInstead(L"    | TQM RT\n", L"    | TQM\n"), ElementsAre(L"another text: TQM\n"));
 }
 
+TEST_F(JournalOracle, FindsAnotherTextThatLooksMasked) {
+  for (const wchar_t* wrong : {L"*", L"TQM R*", L"TQM *RT", L"TQM \uFFFDT", L"T<payment>M"}) {
+    EXPECT_THAT(WithInstead(L"    | TQM RT\n", std::wstring(L"    | ") + wrong + L"\n"),
+                ElementsAre(std::wstring(L"another text: ") + wrong + L"\n"));
+  }
+}
+
+TEST_F(JournalOracle, FindsAnotherTextBesideWhatIsMasked) {
+  constexpr auto kComplaint = L"another text: CH 7 ";
+  EXPECT_THAT(WithInstead(L"CH 7 O/PT/<payment>\n", L"CH 7 O/PT/<payment>+SEK1\n"),
+              ElementsAre(testing::StartsWith(kComplaint)));
+  EXPECT_THAT(WithInstead(L"CH 7 O/PT/<payment>\n", L"CH 7 O/PX/<payment>\n"),
+              ElementsAre(testing::StartsWith(kComplaint)));
+}
+
+TEST_F(JournalOracle, FindsAnotherTextBesideAnAsterisk) {
+  EXPECT_THAT(WithInstead(L";RM *FARE:1160,", L";RM *FARE:1161,"),
+              ElementsAre(testing::StartsWith(L"another text: FO 117-")));
+}
+
 TEST_F(JournalOracle, FindsAMissingEntry) {
   shown.timeline.push_back({.kind = Event::Kind::kEntry, .text = L"BT"});
   EXPECT_THAT(OnTheJournal(shown, text)[0], testing::HasSubstr(L" entries"));
@@ -85,6 +114,14 @@ TEST_F(JournalOracle, FindsAMissingBoxAndAnotherAnswer) {
 TEST_F(JournalOracle, FindsAnotherBox) {
   EXPECT_THAT(WithInstead(L"PNR was not Queued", L"PNR was Queued")[0],
               testing::StartsWith(L"another box: PNR was Queued"));
+}
+
+TEST_F(JournalOracle, FindsAnotherLastErrorThatTheLibraryShows) {
+  Run({.place = PlaceOf(L"PnrReader.CountMCOElements"), .way = Way::kErrorWithNumber});
+  EXPECT_THAT(OnTheJournal(shown, text), IsEmpty());
+  constexpr auto kMessage = L"Message by ReportLastError:\n    | The library";
+  EXPECT_THAT(WithInstead(kMessage, L"Message by ReportLastError:\n    | The terminal"),
+              ElementsAre(testing::StartsWith(L"another box: The terminal failed ")));
 }
 
 }  // namespace
