@@ -31,7 +31,7 @@ bool IsSame(const hostlib::Operation& one, const hostlib::Operation& other) {
 }
 
 template <typename Rows>
-auto Find(const Rows& rows, const hostlib::Operation* operation) -> decltype(rows.data()) {
+auto Find(const Rows& rows, const hostlib::Operation* operation) noexcept -> decltype(rows.data()) {
   if (operation == nullptr) return nullptr;
   const auto found = std::ranges::find_if(
       rows, [&](const auto& row) { return IsSame(*row.operation, *operation); });
@@ -42,7 +42,7 @@ auto Find(const Rows& rows, const hostlib::Operation* operation) -> decltype(row
 
 std::span<const EntryOperation> EntryOperations() { return kEntryOperations; }
 
-const EntryOperation* FindEntryOperation(const hostlib::Operation* operation) {
+const EntryOperation* FindEntryOperation(const hostlib::Operation* operation) noexcept {
   return Find(kEntryOperations, operation);
 }
 

@@ -19,7 +19,7 @@ struct EntryOperation {
   Verdict verdict;
 };
 std::span<const EntryOperation> EntryOperations();
-const EntryOperation* FindEntryOperation(const hostlib::Operation* operation);
+const EntryOperation* FindEntryOperation(const hostlib::Operation* operation) noexcept;
 
 /// An operation that reads an entry's answer, and the flags in which it says what it found. The
 /// entry was accepted when one of them is True, refused when all are False.

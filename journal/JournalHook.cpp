@@ -36,11 +36,9 @@ std::wstring NameOf(const CallInfo& call) {
 }  // namespace
 
 Value JournalHook::OnCall(const CallInfo& call, const std::function<Value()>& proceed) {
-  const EntryOperation* entry = nullptr;
-  Quietly([&] {
-    payments_.Before(call);
-    entry = FindEntryOperation(call.operation);
-  });
+  Quietly([&] { payments_.Before(call); });
+  // Cannot fail: whatever becomes of what is written, an entry is known for one.
+  const EntryOperation* entry = FindEntryOperation(call.operation);
   return entry != nullptr ? Send(*entry, call, proceed) : Pass(call, proceed);
 }
 
