@@ -5,12 +5,18 @@
 namespace hostlib {
 namespace {
 
+/// The library's object, or, with a number, an interface of it that was asked for. That one is got
+/// from the library only inside a call, so that the hook sees when it cannot be had.
 class InterposedObject : public Object {
  public:
+  InterposedObject(ObjectPtr inner, CallHook& hook) : inner_(std::move(inner)), hook_(hook) {}
   InterposedObject(ObjectPtr inner, int interfaceNumber, CallHook& hook)
-      : inner_(std::move(inner)), interfaceNumber_(interfaceNumber), hook_(hook) {}
+      : inner_(std::move(inner)),
+        interfaceNumber_(interfaceNumber),
+        isObject_(false),
+        hook_(hook) {}
   ~InterposedObject() override {
-    if (interfaceNumber_ == 1) hook_.ObjectReleased(inner_->ClassName());
+    if (isObject_) hook_.ObjectReleased(inner_->ClassName());
   }
 
   std::wstring_view ClassName() const override { return inner_->ClassName(); }
@@ -20,13 +26,14 @@ class InterposedObject : public Object {
                         FindOperation(ClassName(), interfaceNumber_, slot), arguments};
     return hook_.OnCall(call, [&] {
       const bool handsObjects = std::ranges::any_of(arguments, &Value::IsObject);
-      if (handsObjects) return Wrapped(inner_->Call(slot, Unwrapped(arguments)));
-      return Wrapped(inner_->Call(slot, arguments));
+      const ObjectPtr target = isObject_ ? inner_ : inner_->Interface(interfaceNumber_);
+      if (handsObjects) return Wrapped(target->Call(slot, Unwrapped(arguments)));
+      return Wrapped(target->Call(slot, arguments));
     });
   }
 
   ObjectPtr Interface(int number) override {
-    return std::make_shared<InterposedObject>(inner_->Interface(number), number, hook_);
+    return std::make_shared<InterposedObject>(inner_, number, hook_);
   }
 
  private:
@@ -47,11 +54,12 @@ class InterposedObject : public Object {
     const auto* object = value.If<ObjectPtr>();
     if (object == nullptr || *object == nullptr) return value;
     hook_.ObjectCreated((*object)->ClassName());
-    return ObjectPtr(std::make_shared<InterposedObject>(*object, 1, hook_));
+    return ObjectPtr(std::make_shared<InterposedObject>(*object, hook_));
   }
 
   ObjectPtr inner_;
-  int interfaceNumber_;
+  int interfaceNumber_ = 1;
+  bool isObject_ = true;
   CallHook& hook_;
 };
 
@@ -60,7 +68,7 @@ class InterposedObject : public Object {
 ObjectPtr InterposedLibrary::Create(std::wstring_view className) {
   ObjectPtr inner = inner_.Create(className);
   hook_.ObjectCreated(className);
-  return std::make_shared<InterposedObject>(std::move(inner), 1, hook_);
+  return std::make_shared<InterposedObject>(std::move(inner), hook_);
 }
 
 }  // namespace hostlib

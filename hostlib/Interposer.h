@@ -27,8 +27,9 @@ class CallHook {
   virtual Value OnCall(const CallInfo& call, const std::function<Value()>& proceed) = 0;
 };
 
-/// Any library with a hook before it. Objects that the library gives are hooked too. Both must
-/// outlive every object that was made. Several can be stacked.
+/// Any library with a hook before it. Objects that the library gives are hooked too; an interface
+/// that an object has not fails in the first call to it. Both must outlive every object that was
+/// made. Several can be stacked.
 class InterposedLibrary : public Library {
  public:
   InterposedLibrary(Library& inner, CallHook& hook) : inner_(inner), hook_(hook) {}

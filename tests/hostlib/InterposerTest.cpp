@@ -84,6 +84,42 @@ TEST(Interposer, AFurtherInterfaceIsNoFurtherObject) {
   EXPECT_EQ(bench.recorder.LiveObjects(), 0);
 }
 
+/// A library whose objects have one interface only.
+class NoFurtherInterface : public Library {
+ public:
+  ObjectPtr Create(std::wstring_view className) override {
+    return std::make_shared<Only>(std::wstring(className));
+  }
+
+ private:
+  class Only : public Object {
+   public:
+    explicit Only(std::wstring className) : className_(std::move(className)) {}
+    std::wstring_view ClassName() const override { return className_; }
+    Value Call(int, const Arguments&) override { return {}; }
+    ObjectPtr Interface(int) override { throw LibraryError(1, L"test", L"no interface"); }
+
+   private:
+    std::wstring className_;
+  };
+};
+
+TEST(Interposer, AnInterfaceThatCannotBeHadIsAFailureOfTheCallThatWantsIt) {
+  NoFurtherInterface inner;
+  Recorder recorder;
+  InterposedLibrary library(inner, recorder);
+  PrintRequest request(library);
+  EXPECT_THROW(request.ReadResponse(L"x"), LibraryError);
+  EXPECT_EQ(recorder.lines(), Lines{L"PrintRequest.2.8 ReadResponse(\"x\") !> no interface"});
+}
+
+TEST(Interposer, TheFirstInterfaceByItsNumberIsNoFurtherObject) {
+  Bench bench;
+  const ObjectPtr object = bench.library.Create(operations::print_request::kClass);
+  object->Interface(1);
+  EXPECT_EQ(bench.recorder.LiveObjects(), 1);
+}
+
 TEST(Operations, NoTwoStandInTheSamePlace) {
   std::set<std::tuple<std::wstring_view, int, int>> places;
   for (const Operation& one : AllOperations()) {
