@@ -6,28 +6,37 @@
 namespace app {
 namespace {
 
-void ReportUnexpected(ui::Desktop& desktop, const std::wstring& description) {
-  desktop.ShowBox(L"The script ended because of an unexpected failure.\r\r" + description,
-                  common::kCritical, common::kTitle);
+void ReportUnexpected(common::MessageBoxes& boxes, const std::wstring& description) {
+  boxes.ShowBox(L"The script ended because of an unexpected failure.\r\r" + description,
+                common::kCritical, common::kTitle);
 }
 
 }  // namespace
 
+void TellFailures(common::MessageBoxes& boxes, common::Body work) {
+  try {
+    work();
+  } catch (const common::RunTimeError& error) {
+    ReportUnexpected(boxes, error.description());
+  } catch (const std::exception& error) {
+    ReportUnexpected(boxes, common::FromUtf8(error.what()));
+  }
+}
+
 int RunProgram(hostlib::Library& library, ui::Desktop& desktop,
                const platform::Platform& platform) {
-  try {
-    MainModule run(library, desktop, platform);
-    run.Main();
-    desktop.Run();
-    return 0;
-  } catch (const common::EndOfRun&) {
-    return 0;
-  } catch (const common::RunTimeError& error) {
-    ReportUnexpected(desktop, error.description());
-  } catch (const std::exception& error) {
-    ReportUnexpected(desktop, common::FromUtf8(error.what()));
-  }
-  return 1;
+  int exitCode = 1;
+  TellFailures(desktop, [&] {
+    try {
+      MainModule run(library, desktop, platform);
+      run.Main();
+      desktop.Run();
+      exitCode = 0;
+    } catch (const common::EndOfRun&) {
+      exitCode = 0;
+    }
+  });
+  return exitCode;
 }
 
 }  // namespace app

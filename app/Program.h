@@ -1,10 +1,14 @@
 #pragma once
 
+#include "common/Body.h"
 #include "hostlib/Object.h"
 #include "platform/Platform.h"
 #include "ui/controls/Desktop.h"
 
 namespace app {
+
+/// Does `work`. An exception of the program's own in it is told in a box.
+void TellFailures(common::MessageBoxes& boxes, common::Body work);
 
 /// One run of the program, from its entry procedure to its end. Lets no exception of the program's
 /// own out; gives the process's exit code: 0, or 1 after a failure that nobody expected.

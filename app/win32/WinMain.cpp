@@ -38,10 +38,16 @@ int Run(journal::RunJournal& journal, const platform::Platform& machine) {
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, LPWSTR, int) {
   platform::LoadSystemLibrariesOnly();
   ui::WindowsDesktop desktop(instance, L"PTA_QX");
-  const platform::WindowsPlatform machine;
-  const journal::WindowsClock clock;
-  journal::WindowsFolder folder(journal::UsersJournalFolder());
-  journal::RunJournal journal(desktop,
-                              {machine, folder, clock, common::FromUtf8(PTA_VERSION_TEXT)});
-  return journal.Ended(Run(journal, machine));
+  int exitCode = 1;
+  app::TellFailures(desktop, [&] {
+    const platform::WindowsPlatform machine;
+    const journal::WindowsClock clock;
+    journal::WindowsFolder folder(journal::UsersJournalFolder());
+    journal::RunJournal journal(desktop,
+                                {machine, folder, clock, common::FromUtf8(PTA_VERSION_TEXT)});
+    // Once more inside, so that the journal has that box, too, as long as there is one.
+    app::TellFailures(journal.desktop(), [&] { exitCode = Run(journal, machine); });
+    journal.Ended(exitCode);
+  });
+  return exitCode;
 }

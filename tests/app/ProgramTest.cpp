@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <new>
 #include <optional>
 #include <stdexcept>
 #include <utility>
@@ -86,6 +87,23 @@ void ExpectTold(Failure failure, const wchar_t* words) {
 TEST(RunProgram, AnUnexpectedFailureIsToldInItsOwnWordsAndEndsTheProgramWithOne) {
   ExpectTold(std::runtime_error("no memory"), L"no memory");
   ExpectTold(common::RunTimeError(L"no window"), L"no window");
+}
+
+TEST(TellFailures, ShowsNothingWhenThereIsNone) {
+  support::FakeDesktop desktop;
+  bool done = false;
+  TellFailures(desktop, [&] { done = true; });
+  EXPECT_TRUE(done);
+  EXPECT_EQ(desktop.log, Lines{});
+}
+
+TEST(TellFailures, ShowsOneOutsideTheRunInTheSameWords) {
+  support::FakeDesktop desktop;
+  TellFailures(desktop, [] { throw std::bad_alloc(); });
+  EXPECT_EQ(
+      desktop.log,
+      Lines{L"box 16 \"  PTA Script \" \"The script ended because of an unexpected failure.\r\r"
+            L"std::bad_alloc\" -> 1"});
 }
 
 }  // namespace
