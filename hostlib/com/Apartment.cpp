@@ -39,6 +39,10 @@ class BusyFilter : public IMessageFilter {
     try {
       return static_cast<DWORD>(policy_.AfterRejection(sinceItsStart));
     } catch (...) {
+      // Nothing may leave through the system. This is never the end of the run nor anything else of
+      // its own: while a call is out no handler of a form runs, since the gate is shut or only the
+      // progress form is there, which has none. What has failed is the question itself, and the
+      // step whose call is given up reports that.
       return static_cast<DWORD>(BusyPolicy::kGiveUp);
     }
   }

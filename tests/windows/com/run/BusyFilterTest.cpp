@@ -2,6 +2,8 @@
 #include <windows.h>
 #include <wrl/client.h>
 
+#include <new>
+
 #include "common/ConstDefintions.h"
 #include "hostlib/com/Apartment.h"
 
@@ -51,6 +53,14 @@ TEST_F(BusyFilter, AsksAfterAWhileAndGoesOnWhenTheAgentWantsTo) {
   tryAgain_ = true;
   EXPECT_EQ(AfterRejection(kLongAgo), static_cast<DWORD>(hostlib::com::BusyPolicy::kPause));
   EXPECT_EQ(questions_, 1);
+}
+
+TEST(BusyFilterAlone, GivesTheCallUpWhenTheQuestionCannotBeAsked) {
+  const hostlib::com::Apartment apartment([]() -> bool { throw std::bad_alloc(); });
+  ComPtr<IMessageFilter> filter;
+  CoRegisterMessageFilter(nullptr, &filter);
+  EXPECT_EQ(filter->RetryRejectedCall(nullptr, kLongAgo, SERVERCALL_RETRYLATER),
+            static_cast<DWORD>(hostlib::com::BusyPolicy::kGiveUp));
 }
 
 TEST_F(BusyFilter, LetsTheWindowsLiveWhileACallIsUnderWay) {
