@@ -53,10 +53,14 @@ void ThrowLinkError(HRESULT result, const std::wstring& what) {
 }
 
 bool IsAnswered(HRESULT result) {
+  CheckLink(result);
+  return SUCCEEDED(result);
+}
+
+void CheckLink(HRESULT result) {
   const bool hasLink =
       OutcomeOf(static_cast<std::uint32_t>(result)) == LibraryError::Outcome::kRefused;
   if (!hasLink) CheckAnswered(result);
-  return SUCCEEDED(result);
 }
 
 void CheckAnswered(HRESULT result) { CheckBeforeCall(result, L""); }

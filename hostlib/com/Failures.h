@@ -23,6 +23,8 @@ inline void Check(HRESULT result, const std::wstring& what = {}) {
 /// Whether a question about the library's types was answered. Throws when the link failed, so that
 /// a terminal that goes away is not taken for one that lacks what was asked for.
 bool IsAnswered(HRESULT result);
+/// ... and only throws.
+void CheckLink(HRESULT result);
 /// ... and throws for every failure.
 void CheckAnswered(HRESULT result);
 /// A failure before the call itself: nothing of it has been sent.

@@ -22,8 +22,10 @@ std::wstring Words(const Operation& operation, const std::wstring& fault) {
   if (operation.interfaceNumber != 1) {
     words += L", interface " + common::NumberText(operation.interfaceNumber);
   }
-  return words + L", slot " + common::NumberText(operation.slot) + L" (" +
-         std::wstring(operation.name) + L"): " + fault + L".";
+  words += L", slot " + common::NumberText(operation.slot) + L" (" + std::wstring(operation.name) +
+           L"): " + fault;
+  // The system's own words have theirs.
+  return words.ends_with(L'.') ? words : words + L".";
 }
 
 class LibraryCheck {
@@ -79,7 +81,8 @@ class LibraryCheck {
     const auto failure = notMade_.find(className);
     // Only a terminal with an open session can make one, which is for the run to find.
     if (failure == notMade_.end() || className == operations::terminal_session::kClass) return {};
-    if (IsAnswered(failure->second)) return {};
+    // A failure of the link is none of the library's.
+    CheckLink(failure->second);
     return std::wstring(className) + L": no object can be made. " + TextOf(failure->second);
   }
 

@@ -60,6 +60,31 @@ TEST_F(LibraryCheck, NamesTheOperationWithAnotherNumberOfArguments) {
                 L"TerminalSession, slot 11 (SendEntry): it takes 2 arguments instead of 1.");
 }
 
+TEST_F(LibraryCheck, EndsTheReasonForAnUnreadableDescriptionWithOneFullStop) {
+  constexpr auto kFailure = static_cast<HRESULT>(0x80070002);  // a file that is not there
+  const std::wstring reason = hostlib::com::TextOf(kFailure);
+  ASSERT_TRUE(reason.ends_with(L'.'));
+  constexpr int kMostQuestions = 50;
+  int unreadable = 0;
+  for (int question = 1; question <= kMostQuestions; ++question) {
+    source_ = TestSource();
+    bag_ = Install(L"ParameterBag", __uuidof(::TestBag), __uuidof(IBag));
+    bag_->BreakWith(std::make_shared<LinkBreak>(LinkBreak{question, kFailure}));
+    hostlib::com::ComLibrary library(source_);
+    try {
+      CheckUsedOperations(library, std::span(kUsed).first(1));
+    } catch (const hostlib::LibraryError& error) {
+      if (error.description().find(L"can not be read") == std::wstring::npos) continue;
+      ++unreadable;
+      EXPECT_EQ(error.description(), std::wstring(kIntroduction) +
+                                         L"ParameterBag, slot 7 (SetValue): its description can "
+                                         L"not be read. " +
+                                         reason);
+    }
+  }
+  EXPECT_GT(unreadable, 0);
+}
+
 TEST_F(LibraryCheck, NamesAFurtherInterface) {
   InstallAll(Types::kGood);
   constexpr hostlib::Operation kUsedMore[] = {{L"PnrElementChange", 2, 9, L"Undo", 1},
