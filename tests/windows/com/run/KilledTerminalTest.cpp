@@ -16,6 +16,7 @@
 namespace com_run {
 namespace {
 
+constexpr int kFirstCall = 1;
 constexpr int kBetweenSamples = 29;
 
 /// A box in one line: its style, its title and its text.
@@ -90,16 +91,22 @@ TEST_F(KilledTerminal, BeforeAnyCallShowsTheBoxesOfTheFaultMatrix) {
     ASSERT_EQ(undisturbed.count(), static_cast<int>(sites.size()));
     const int step = std::getenv("PTA_EVERY_CALL") != nullptr ? 1 : kBetweenSamples;
     int kills = 0;
-    for (int place = 1; place <= undisturbed.count(); place += step, ++kills) {
+    int beforeMakings = 0;
+    for (int place = kFirstCall; place <= undisturbed.count(); place += step, ++kills) {
+      const faults::CallSite& site = sites[static_cast<std::size_t>(place) - 1];
       SCOPED_TRACE("killed before call " + std::to_string(place) + ", " +
-                   common::ToUtf8(sites[static_cast<std::size_t>(place) - 1].name));
+                   common::ToUtf8(site.name));
+      beforeMakings += site.isCreation ? 1 : 0;
       Open();
       Watch watch(place, [this] { terminal_->Kill(); });
       const Boxes boxes = RunToTheEnd(watch);
       EXPECT_EQ(boxes, Natively(place, watch));
     }
     std::cout << "terminals killed: " << kills << " before one of " << undisturbed.count()
-              << " calls\n";
+              << " calls, " << beforeMakings << " of them the making of an object\n";
+    // The first one is that of the first object; a sample must have others, in the midst of a run.
+    EXPECT_TRUE(sites[kFirstCall - 1].isCreation);
+    EXPECT_GE(beforeMakings, 2);
   });
 }
 
