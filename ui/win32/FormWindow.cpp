@@ -39,6 +39,7 @@ void FormWindow::Bind(Control& control) {
   }
   auto& bound = controls_[&control] = NativeControl::Make(control, native, shell_);
   bound->PushAll();
+  bound->Listen();
 }
 
 void FormWindow::UseProgramIcon(HINSTANCE instance) {

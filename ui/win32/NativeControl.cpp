@@ -19,16 +19,18 @@ WORD ChangeOf(ControlKind kind) {
 }  // namespace
 
 NativeControl::NativeControl(Control& control, HWND window, Shell& shell)
-    : control_(control), window_(window), shell_(shell) {
-  if (window_ == nullptr) return;
-  SetWindowSubclass(window_, &Procedure, kSubclass, reinterpret_cast<DWORD_PTR>(this));
-  SetPropW(window_, kSelf, this);
-}
+    : control_(control), window_(window), shell_(shell) {}
 
 NativeControl::~NativeControl() { Forget(); }
 
 NativeControl* NativeControl::Of(HWND window) {
   return static_cast<NativeControl*>(GetPropW(window, kSelf));
+}
+
+void NativeControl::Listen() {
+  if (window_ == nullptr) return;
+  SetWindowSubclass(window_, &Procedure, kSubclass, reinterpret_cast<DWORD_PTR>(this));
+  SetPropW(window_, kSelf, this);
 }
 
 void NativeControl::Forget() {
