@@ -62,13 +62,13 @@ ClassBinding& ComLibrary::BindingFor(std::wstring_view className, IDispatch& obj
     return *found->second;
   }
   if (ClassBinding* binding = BindingWithoutObject(className)) return *binding;
-  if (const TypeLibrary library = TypeLibraryOf(object)) {
-    typeLibraries_.push_back(library);
-    if (ClassBinding* binding = BindingIn(library, className)) return *binding;
-  }
   const InstalledClass& installed = Find(className);
-  return Keep(std::make_unique<ClassBinding>(std::wstring(className), object,
-                                             SUCCEEDED(installed.found) ? &installed.id : nullptr));
+  const CLSID* const classId = SUCCEEDED(installed.found) ? &installed.id : nullptr;
+  if (classId != nullptr) {
+    if (ClassBinding* binding = BindingInNew(source_.TypesOf(*classId), className)) return *binding;
+  }
+  if (ClassBinding* binding = BindingInNew(TypeLibraryOf(object), className)) return *binding;
+  return Keep(std::make_unique<ClassBinding>(std::wstring(className), object, classId));
 }
 
 ClassBinding* ComLibrary::BindingWithoutObject(std::wstring_view className) {
@@ -88,6 +88,12 @@ ClassBinding* ComLibrary::BindingWithoutObject(std::wstring_view className) {
     }
   }
   return nullptr;
+}
+
+ClassBinding* ComLibrary::BindingInNew(const TypeLibrary& library, std::wstring_view className) {
+  if (library == nullptr) return nullptr;
+  typeLibraries_.push_back(library);
+  return BindingIn(library, className);
 }
 
 ClassBinding* ComLibrary::BindingIn(const TypeLibrary& library, std::wstring_view className) {

@@ -23,7 +23,8 @@ class ComLibrary : public Library, public ObjectGate {
   Microsoft::WRL::ComPtr<IDispatch> Outward(const ObjectPtr& object) override;
   ObjectPtr Inward(Microsoft::WRL::ComPtr<IDispatch> object, std::wstring_view className) override;
 
-  /// How the class's operations are called, found on an object of it at first.
+  /// How the class's operations are called: from its types, which the object is asked for when
+  /// nothing else tells them.
   ClassBinding& BindingFor(std::wstring_view className, IDispatch& object);
   /// The same without an object, when a type library that is known already has the class; null
   /// otherwise.
@@ -46,6 +47,7 @@ class ComLibrary : public Library, public ObjectGate {
 
   const InstalledClass& Find(std::wstring_view className);
   ClassBinding* BindingIn(const TypeLibrary& library, std::wstring_view className);
+  ClassBinding* BindingInNew(const TypeLibrary& library, std::wstring_view className);
   ClassBinding& Keep(std::unique_ptr<ClassBinding> binding);
 
   ObjectSource& source_;

@@ -9,6 +9,7 @@
 #include <memory>
 
 #include "hostlib/Object.h"
+#include "hostlib/com/RegisteredText.h"
 
 namespace hostlib::com {
 namespace {
@@ -53,24 +54,6 @@ std::wstring PathOfElevated(const PROCESSENTRY32W& entry) {
   return isTold ? path : entry.szExeFile;
 }
 
-struct CloseKeyLater {
-  void operator()(HKEY key) const { RegCloseKey(key); }
-};
-
-std::wstring Registered(const std::wstring& key, REGSAM view) {
-  HKEY opened = nullptr;
-  if (RegOpenKeyExW(HKEY_CLASSES_ROOT, key.c_str(), 0, KEY_QUERY_VALUE | view, &opened) !=
-      ERROR_SUCCESS) {
-    return {};
-  }
-  const std::unique_ptr<std::remove_pointer_t<HKEY>, CloseKeyLater> closed(opened);
-  wchar_t text[1024];
-  DWORD size = sizeof(text);
-  const bool isRead =
-      RegGetValueW(opened, nullptr, nullptr, RRF_RT_REG_SZ, nullptr, text, &size) == ERROR_SUCCESS;
-  return isRead ? text : L"";
-}
-
 std::wstring Unquoted(std::wstring path) {
   std::erase(path, L'"');
   return path;
@@ -99,17 +82,15 @@ bool BelongTogether(const ClassServer& server, const std::wstring& program) {
 bool ThisMachine::IsThisProgramElevated() const { return IsElevated(GetCurrentProcess()); }
 
 std::vector<ClassServer> ThisMachine::ServersOf(const CLSID& classId) const {
-  wchar_t id[64];
-  if (StringFromGUID2(classId, id, static_cast<int>(std::size(id))) == 0) return {};
-  const std::wstring key = L"CLSID\\" + std::wstring(id);
+  const std::wstring key = L"CLSID\\" + IdText(classId);
   std::vector<ClassServer> servers;
   const auto add = [&servers](const ClassServer& server) {
     const bool isKnown = std::find(servers.begin(), servers.end(), server) != servers.end();
     if (!server.path.empty() && !isKnown) servers.push_back(server);
   };
   for (const REGSAM view : {KEY_WOW64_64KEY, KEY_WOW64_32KEY}) {
-    add({ProgramIn(Registered(key + L"\\LocalServer32", view)), false});
-    add({Unquoted(Registered(key + L"\\InprocServer32", view)), true});
+    add({ProgramIn(RegisteredText(key + L"\\LocalServer32", view)), false});
+    add({Unquoted(RegisteredText(key + L"\\InprocServer32", view)), true});
   }
   return servers;
 }

@@ -1,5 +1,6 @@
 #include "hostlib/com/Elevation.h"
 #include "hostlib/com/ObjectSource.h"
+#include "hostlib/com/RegisteredTypes.h"
 
 namespace hostlib::com {
 
@@ -11,6 +12,8 @@ HRESULT InstalledObjects::Make(const CLSID& classId, Microsoft::WRL::ComPtr<IDis
   return CoCreateInstance(classId, nullptr, CLSCTX_INPROC_SERVER | CLSCTX_LOCAL_SERVER,
                           IID_PPV_ARGS(&object));
 }
+
+TypeLibrary InstalledObjects::TypesOf(const CLSID& classId) { return RegisteredTypesOf(classId); }
 
 bool InstalledObjects::IsOutOfReach(const CLSID& classId, HRESULT failure) {
   return com::IsOutOfReach(ThisMachine(), classId, failure);

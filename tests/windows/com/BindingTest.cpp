@@ -204,6 +204,23 @@ TEST_F(Binding, AnObjectThatDoesNotDescribeItselfHasNoSlots) {
   EXPECT_EQ(FailureOf([&] { print->Interface(2); }).number(), E_NOINTERFACE);
 }
 
+TEST_F(Binding, RegisteredTypesAreReadWithoutAQuestionToTheObject) {
+  const auto server = InstallSession();
+  source_.registered = LoadTypes(Types::kGood);
+  Made(L"TerminalSession")->Call(11, {Value(L"RT")});
+  EXPECT_EQ(server->calls, (std::vector<DISPID>{205}));
+  EXPECT_EQ(server->typeQuestions, 0);
+}
+
+TEST_F(Binding, AnObjectWhoseClassTheRegisteredTypesLackIsAskedForItsOwn) {
+  constexpr CLSID kElsewhere{0x1, 0x2, 0x3, {4, 5, 6, 7, 8, 9, 10, 11}};
+  const auto server = Install(L"TerminalSession", kElsewhere, __uuidof(ISession));
+  source_.registered = LoadTypes(Types::kGood);
+  Made(L"TerminalSession")->Call(11, {Value(L"RT")});
+  EXPECT_EQ(server->calls, (std::vector<DISPID>{205}));
+  EXPECT_GT(server->typeQuestions, 0);
+}
+
 TEST_F(Binding, TheFacadesReachTheInstalledLibrary) {
   const auto server = InstallSession();
   server->Answer([](VARIANT& answer) {

@@ -176,6 +176,23 @@ TEST_F(LibraryCheck, LeavesATerminalThatDoesNotRunToTheRun) {
   EXPECT_NO_THROW(CheckUsedOperations(library_, kUsed));
 }
 
+TEST_F(LibraryCheck, LeavesATerminalThatDoesNotRunToTheRunWhateverIsRegistered) {
+  types_ = LoadTypes(Types::kGood);
+  Install(L"ParameterBag", __uuidof(::TestBag), __uuidof(IBag));
+  source_.registered = LoadTypes(Types::kLacksSlot);
+  source_.failures[L"Vantel.ParameterBag"] = CO_E_SERVER_EXEC_FAILURE;
+  EXPECT_NO_THROW(CheckUsedOperations(library_, kUsed));
+}
+
+TEST_F(LibraryCheck, NamesTheSlotThatTheRegisteredTypesLack) {
+  InstallAll(Types::kGood);
+  source_.registered = LoadTypes(Types::kLacksSlot);
+  EXPECT_EQ(FailureOf([&] { CheckUsedOperations(library_, kUsed); }).description(),
+            std::wstring(kIntroduction) +
+                L"TerminalSession, slot 16 (SessionText): there is no such slot.");
+  EXPECT_EQ(bag_->typeQuestions, 0);
+}
+
 TEST_F(LibraryCheck, FindsWhatEachOfSeveralTypeLibrariesDescribes) {
   // The session comes from a library of its own: its class is looked for on an object.
   types_ = LoadTypes(Types::kGood);

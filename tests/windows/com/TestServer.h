@@ -84,11 +84,13 @@ class TestSource : public hostlib::com::ObjectSource {
   int stopping = 0;  ///< so many times the program that makes objects is about to end
   std::function<void()> onSearch;
   bool isOutOfReach = false;
+  TypeLibrary registered;  ///< with every class
   int made = 0;
   int searched = 0;
 
   HRESULT FindClass(std::wstring_view progId, CLSID& classId) override;
   HRESULT Make(const CLSID& classId, ComPtr<IDispatch>& object) override;
+  TypeLibrary TypesOf(const CLSID&) override { return registered; }
   bool IsOutOfReach(const CLSID&, HRESULT) override { return isOutOfReach; }
 
  private:

@@ -110,7 +110,20 @@ TEST_F(RoundTripsOfACall, IsOneWithAFreshBag) {
   });
 }
 
-// The types of the registered library are read in this process.
+// The class is registered with its type library, which is read in this process.
+TEST_F(RoundTripsOfACall, IsOneForTheVeryFirst) {
+  Telling([this] {
+    Start();
+    RoundTrips::Watch();
+    const auto session = library_.Create(L"TerminalSession");
+    const int before = RoundTrips::Count();
+    ASSERT_GT(before, 0);
+    session->Call(9, {});
+    EXPECT_EQ(RoundTrips::Count() - before, 1);
+  });
+}
+
+// ... and has the other classes, too.
 TEST_F(RoundTripsOfACall, IsOneForTheFirstCallOfAFurtherClass) {
   Telling([this] {
     Start();
