@@ -69,14 +69,29 @@ bool IsOwn(std::wstring_view name, std::wstring_view call) {
   return shown.starts_with(own->begin) && shown.ends_with(own->end);
 }
 
+/// The name that is called where this parenthesis opens, with or without template arguments; ""
+/// when none is.
+std::wstring_view NameBefore(std::wstring_view code, std::size_t open) {
+  std::size_t end = open;
+  if (end > 0 && code[end - 1] == L'>') {
+    int depth = 0;
+    do {
+      --end;
+      if (code[end] == L'>') ++depth;
+      if (code[end] == L'<') --depth;
+    } while (end > 0 && depth > 0 && code[end] != L';');
+  }
+  std::size_t from = end;
+  while (from > 0 && IsNameCharacter(code[from - 1])) --from;
+  return code.substr(from, end - from);
+}
+
 }  // namespace
 
 std::vector<std::wstring> ForeignFormats(std::wstring_view code) {
   std::vector<std::wstring> found;
   for (std::size_t open = code.find(L'('); open != code.npos; open = code.find(L'(', open + 1)) {
-    std::size_t from = open;
-    while (from > 0 && IsNameCharacter(code[from - 1])) --from;
-    const std::wstring_view name = code.substr(from, open - from);
+    const std::wstring_view name = NameBefore(code, open);
     if (TakesFormat(name) && !IsOwn(name, code.substr(open))) found.emplace_back(name);
   }
   return found;
