@@ -20,6 +20,7 @@ FormWindow::FormWindow(Form& form, HINSTANCE instance, HWND owner, Shell& shell)
     throw common::RunTimeError(L"The window of " + form.name() + L" can not be made");
   }
   SetWindowTextW(handle(), form.Caption().c_str());
+  UseProgramIcon(instance);
   for (Control* control : form.controls()) Bind(*control);
   SetWindowLongPtrW(handle(), DWLP_USER, reinterpret_cast<LONG_PTR>(this));
 }
@@ -41,8 +42,7 @@ void FormWindow::Bind(Control& control) {
   bound->Listen();
 }
 
-void FormWindow::UseProgramIcon() {
-  auto* const instance = reinterpret_cast<HINSTANCE>(GetWindowLongPtrW(handle(), GWLP_HINSTANCE));
+void FormWindow::UseProgramIcon(HINSTANCE instance) {
   const auto use = [&](WPARAM which, int width, int height) {
     const HANDLE icon = LoadImageW(instance, MAKEINTRESOURCEW(kProgramIcon), IMAGE_ICON,
                                    GetSystemMetrics(width), GetSystemMetrics(height), LR_SHARED);
@@ -55,8 +55,6 @@ void FormWindow::UseProgramIcon() {
 void FormWindow::Appear() {
   form_->Shown(*this);
   ShowWindow(handle(), SW_SHOW);
-  // Not before: the agent need not wait for the making of two icons.
-  UseProgramIcon();
   if (Control* const active = form_->ActiveControl()) {
     FocusAsked(*active);
   } else if (!IsChild(handle(), GetFocus())) {

@@ -43,7 +43,7 @@ class FormWindow : public FormView {
                                     LPARAM lParam) noexcept;
   INT_PTR Handle(UINT message, WPARAM wParam, LPARAM lParam);
   void Bind(Control& control);
-  void UseProgramIcon();
+  void UseProgramIcon(HINSTANCE instance);
   void Close();
   void AskToClose();
   bool SetPointer(LPARAM lParam);
