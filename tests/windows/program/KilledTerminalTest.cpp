@@ -6,6 +6,7 @@
 #include "tests/windows/driver/Driver.h"
 #include "tests/windows/program/Boxes.h"
 #include "tests/windows/program/Stage.h"
+#include "tests/windows/terminal/Client.h"
 #include "ui/win32/resource.h"
 
 // The terminal is killed while the program runs: the agent sees the boxes of what failed, and no
@@ -44,6 +45,8 @@ class AKilledTerminal : public testing::Test {
     EXPECT_EQ(BoxesToTheEnd(stage_.program()), boxes);
     EXPECT_EQ(stage_.ExitCodeSoon(), 0u);
     ExpectNothingRuns(L"PTA_QX.exe");
+    // Not even the one that the system started anew for the program's last calls.
+    ExpectNothingRuns(terminal::kPracticeTerminal);
   }
 
   practice::RehearsalScene scene_ = run::OrdinaryScene();
