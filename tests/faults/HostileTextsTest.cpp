@@ -35,10 +35,12 @@ std::vector<std::filesystem::path> ProductSources() {
 /// registered id.
 Lines CommandsIn(std::wstring_view code) {
   constexpr std::wstring_view kCommands[] = {
-      L"system(",    L"popen(",       L"ShellExecute", L"CreateProcess",   L"WinExec",
-      L"execv",      L"execl",        L"spawn",        L"LoadLibrary",     L"LoadModule",
-      L"LdrLoadDll", L"dlopen",       L"GetProcAddr",  L"LoadPackagedLib", L"CoLoadLib",
-      L"fork(",      L"CreateService"};
+      L"system(",           L"popen(",          L"ShellExecute",  L"CreateProcess",
+      L"WinExec",           L"execv",           L"execl",         L"spawn",
+      L"LoadLibrary",       L"LoadModule",      L"LdrLoadDll",    L"dlopen",
+      L"GetProcAddr",       L"LoadPackagedLib", L"CoLoadLib",     L"fork(",
+      L"CreateService",     L"LoadTypeLib(",    L"LoadTypeLibEx", L"CoGetObject",
+      L"MkParseDisplayName"};
   Lines found;
   for (const std::wstring_view command : kCommands) {
     if (common::Contains(code, command)) found.emplace_back(command);
