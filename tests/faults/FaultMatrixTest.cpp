@@ -67,7 +67,10 @@ class Matrix {
   Complaints ComplaintsOn(const Shown& shown, Fault fault) {
     Complaints found = Judge(replays_, undisturbed_, shown, fault);
     if (isWrittenDown_ && shown.stuck.empty()) {
-      for (std::wstring& more : OnTheJournal(shown, journal_.folder.Text())) {
+      // As a form of payment a huge text is thousands of values.
+      const auto withholding =
+          fault.way == Way::kHugeText ? Withholding::kPossible : Withholding::kNever;
+      for (std::wstring& more : OnTheJournal(shown, journal_.folder.Text(), withholding)) {
         found.push_back(std::move(more));
       }
     }

@@ -45,8 +45,8 @@ struct Written {
 
 class Judgement {
  public:
-  Judgement(const Shown& shown, const std::wstring& journal)
-      : shown_(shown), items_(ItemsOf(journal)) {}
+  Judgement(const Shown& shown, const std::wstring& journal, Withholding withholding)
+      : shown_(shown), withholding_(withholding), items_(ItemsOf(journal)) {}
 
   Complaints All() {
     Read();
@@ -92,7 +92,7 @@ class Judgement {
   void JudgeEntry(std::size_t number, const Event& event,
                   const practice::RehearsalOutcome::Entry* taken) {
     const Written& written = entries_[number - 1];
-    if (written.hasText && !IsShown(written.text, event.text)) {
+    if (written.hasText && !Shows(written.text, event.text)) {
       found_.push_back(L"another text: " + written.text.substr(0, 100));
     }
     if (written.states.size() != 1) {
@@ -106,6 +106,11 @@ class Judgement {
     for (auto& [name, numbers] : byState_) {
       if (state.starts_with(name)) numbers.push_back(number);
     }
+  }
+
+  bool Shows(const std::wstring& lines, const std::wstring& text) const {
+    const bool isWithheld = withholding_ == Withholding::kPossible && lines == L"<withheld>\n";
+    return isWithheld || IsShown(lines, text);
   }
 
   static bool Fits(const std::wstring& state, const Event& event,
@@ -197,14 +202,15 @@ class Judgement {
 
   // What the library shows by itself the journal knows only by the failure that it saw last, whose
   // number follows.
-  static bool ShowsBox(const Item& item, const Event& box) {
+  bool ShowsBox(const Item& item, const Event& box) const {
     const bool isTheLibrarys = box.lastError && !box.lastError->byProgram;
     const std::size_t number = item.text.rfind(L" (0x");
-    if (!isTheLibrarys || number == item.text.npos) return IsShown(item.text, box.text);
-    return IsShown(item.text.substr(0, number) + L"\n", box.text);
+    if (!isTheLibrarys || number == item.text.npos) return Shows(item.text, box.text);
+    return Shows(item.text.substr(0, number) + L"\n", box.text);
   }
 
   const Shown& shown_;
+  Withholding withholding_;
   std::vector<Item> items_;
   std::vector<Written> entries_;
   std::vector<Item> boxes_;
@@ -216,8 +222,8 @@ class Judgement {
 
 }  // namespace
 
-Complaints OnTheJournal(const Shown& shown, const std::wstring& journal) {
-  return Judgement(shown, journal).All();
+Complaints OnTheJournal(const Shown& shown, const std::wstring& journal, Withholding withholding) {
+  return Judgement(shown, journal, withholding).All();
 }
 
 }  // namespace faults

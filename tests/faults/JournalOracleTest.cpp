@@ -69,6 +69,12 @@ TEST_F(JournalOracle, FindsAMissingState) {
   EXPECT_THAT(WithInstead(L"Entry 4 not judged", L"Nothing")[0], L"no one state: TQT");
 }
 
+TEST_F(JournalOracle, FindsATextThatIsWithheldWithoutNeed) {
+  const std::wstring withheld = common::Replace(text, L"    | TQM RT\n", L"    | <withheld>\n");
+  EXPECT_THAT(OnTheJournal(shown, withheld), ElementsAre(L"another text: <withheld>\n"));
+  EXPECT_THAT(OnTheJournal(shown, withheld, Withholding::kPossible), IsEmpty());
+}
+
 TEST_F(JournalOracle, FindsAnotherText) {
   EXPECT_THAT(WithInstead(L"    | TQM RT\n", L"    | TQM\n"), ElementsAre(L"another text: TQM\n"));
 }

@@ -6,8 +6,8 @@ namespace faults {
 
 /// Whether the journal's lines are this text, as far as they show it: "<payment>" stands for
 /// something, "<payment 1234>" for something with these digits in it, "*" for a digit or for
-/// itself, the replacement character for what cannot be printed; everything else for itself.
-/// "<withheld>" alone stands for any text. Lines end with "\n".
+/// itself, the replacement character for what cannot be printed; everything else for itself. Lines
+/// end with "\n".
 bool IsShown(std::wstring_view lines, std::wstring_view text);
 
 }  // namespace faults
