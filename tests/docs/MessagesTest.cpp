@@ -66,8 +66,8 @@ std::vector<Report> Reports() {
   return reports;
 }
 
-// Words of the sources that nobody reads: a font's name, a caption that the dialog replaces before it
-// is shown, and an instruction of the processor.
+// Words of the sources that nobody reads: a font's name, a caption that the dialog replaces before
+// it is shown, and an instruction of the processor.
 bool IsNoMessage(const SourceText& text) {
   return text.text == L"Courier New" || text.text == L"PTA - Prepaid Ticket Advice" ||
          text.text == L"int $0x29";
