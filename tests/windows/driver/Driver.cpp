@@ -63,6 +63,21 @@ void SendKey(WORD key, int modifiers) {
   Send(std::move(inputs));
 }
 
+/// A key that is down as long as this lives.
+class HeldKey {
+ public:
+  explicit HeldKey(WORD key) : key_(key) { Send({KeyInput(key_, false)}); }
+  ~HeldKey() {
+    INPUT up = KeyInput(key_, true);
+    SendInput(1, &up, sizeof up);
+  }
+  HeldKey(const HeldKey&) = delete;
+  HeldKey& operator=(const HeldKey&) = delete;
+
+ private:
+  WORD key_;
+};
+
 /// For characters that no key of this keyboard types.
 void SendCharacter(wchar_t character) {
   INPUT down = {};
@@ -284,9 +299,20 @@ void PressInMenu(HWND window, WORD key) {
   SendKey(key, kNone);
 }
 
+// Shift is held until the selection is there: a busy program asks for its state long after the key
+// beside it was sent.
+void SelectAll(HWND field) {
+  Press(field, VK_HOME);
+  const HeldKey shift(VK_SHIFT);
+  Press(field, VK_END);
+  WaitUntil(L"the field's text is selected", [field] {
+    const LRESULT length = SendMessageW(field, WM_GETTEXTLENGTH, 0, 0);
+    return SendMessageW(field, EM_GETSEL, 0, 0) == MAKELONG(0, length);
+  });
+}
+
 void TypeOver(HWND control, std::wstring_view text) {
-  Press(control, VK_HOME);
-  Press(control, VK_END, kShift);
+  SelectAll(control);
   if (text.empty()) Press(control, VK_DELETE);
   Type(control, text);
 }

@@ -211,8 +211,7 @@ void WindowAgent::GoTo(HWND control) {
 void WindowAgent::Paste(HWND field, const std::wstring& text) {
   GoTo(field);
   PutOnClipboard(text);
-  Press(field, VK_HOME);
-  Press(field, VK_END, kShift);
+  SelectAll(field);
   Press(field, 'V', kControl);
 }
 
