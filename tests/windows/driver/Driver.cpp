@@ -300,14 +300,18 @@ void PressInMenu(HWND window, WORD key) {
 }
 
 // Shift is held until the selection is there: a busy program asks for its state long after the key
-// beside it was sent.
+// beside it was sent. When it does not come, a person would press the keys again.
 void SelectAll(HWND field) {
-  Press(field, VK_HOME);
-  const HeldKey shift(VK_SHIFT);
-  Press(field, VK_END);
-  WaitUntil(L"the field's text is selected", [field] {
+  constexpr auto kPatience = std::chrono::seconds(2);
+  const auto isSelected = [field] {
     const LRESULT length = SendMessageW(field, WM_GETTEXTLENGTH, 0, 0);
     return SendMessageW(field, EM_GETSEL, 0, 0) == MAKELONG(0, length);
+  };
+  WaitUntil(L"the field's text is selected", [&] {
+    Press(field, VK_HOME);
+    const HeldKey shift(VK_SHIFT);
+    Press(field, VK_END);
+    return Holds(isSelected, kPatience);
   });
 }
 
