@@ -82,18 +82,19 @@ wine_use_dpi() {
   echo "$1" >"$WINEPREFIX.dpi"
 }
 
-# The display ends by itself when the prefix's last process is gone.
+# The display ends by itself, minutes after the prefix's last process is gone. Were it to end with it,
+# a program that starts in that moment would find none, and Wine would show its windows nowhere.
 wine_own_display() {
-  local state=$1.display number=
+  local state=$1.display screen=${PTA_SCREEN:-1600x1200x24} number=
   exec {display_lock}>"$1.display.lock"
   flock "$display_lock"
   [[ -s $state ]] && number=$(<"$state")
-  if [[ -z $number ]] || ! [[ -S /tmp/.X11-unix/X$number ]] || ! wine_display_answers "$1"; then
+  if [[ -z $number ]] || ! [[ -S /tmp/.X11-unix/X$number ]] || ! wine_display_answers "$1" "$screen"; then
     "${wine_server[@]}" -k >/dev/null 2>&1 || true
     rm -f "$state"
-    setsid Xvfb -displayfd 3 -terminate -screen 0 "${PTA_SCREEN:-1600x1200x24}" \
+    setsid Xvfb -displayfd 3 -terminate 180 -screen 0 "$screen" \
       -nolisten tcp 3>"$state" >/dev/null 2>&1 </dev/null {display_lock}>&- &
-    echo $! >"$1.display.pid"
+    echo "$! $screen" >"$1.display.pid"
     local tries=0
     until [[ -s $state ]]; do
       ((++tries > 200)) && { echo "Xvfb did not start" >&2; return 1; }
@@ -106,7 +107,12 @@ wine_own_display() {
   exec {display_lock}>&-
 }
 
-wine_display_answers() { kill -0 "$(<"$1.display.pid")" 2>/dev/null; }
+# wine_display_answers PREFIX SCREEN: it is there, and as wide as wanted.
+wine_display_answers() {
+  local pid screen
+  read -r pid screen <"$1.display.pid"
+  [[ $screen == "$2" ]] && kill -0 "$pid" 2>/dev/null
+}
 
 # The output goes through a file: Wine's own background processes inherit a pipe, and whoever reads
 # it would wait for them.
