@@ -4,25 +4,12 @@
 
 #include <array>
 #include <thread>
-#include <vector>
+
+#include "tests/windows/driver/Input.h"
 
 namespace driver {
 
 namespace {
-
-void Send(std::vector<INPUT> inputs) {
-  const UINT sent = SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
-  if (sent != inputs.size()) throw DriverError(L"SendInput took not every key");
-}
-
-INPUT KeyInput(WORD key, bool up) {
-  INPUT input = {};
-  input.type = INPUT_KEYBOARD;
-  input.ki.wVk = key;
-  input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC));
-  input.ki.dwFlags = up ? KEYEVENTF_KEYUP : 0;
-  return input;
-}
 
 /// At a point of the window's client area.
 INPUT MouseInput(HWND window, POINT at, DWORD flags) {
@@ -47,47 +34,6 @@ POINT MiddleOf(HWND window) {
 /// False, too, for a button that is gone. The answer comes when the button's program has dealt with
 /// the message before.
 bool IsDown(HWND button) { return (SendMessageW(button, BM_GETSTATE, 0, 0) & BST_PUSHED) != 0; }
-
-void SendKey(WORD key, int modifiers) {
-  constexpr std::array kModifierKeys = {std::pair{kShift, VK_SHIFT},
-                                        std::pair{kControl, VK_CONTROL}, std::pair{kAlt, VK_MENU}};
-  std::vector<INPUT> inputs;
-  for (const auto& [modifier, held] : kModifierKeys) {
-    if ((modifiers & modifier) != 0) inputs.push_back(KeyInput(static_cast<WORD>(held), false));
-  }
-  inputs.push_back(KeyInput(key, false));
-  inputs.push_back(KeyInput(key, true));
-  for (const auto& [modifier, held] : kModifierKeys) {
-    if ((modifiers & modifier) != 0) inputs.push_back(KeyInput(static_cast<WORD>(held), true));
-  }
-  Send(std::move(inputs));
-}
-
-/// A key that is down as long as this lives.
-class HeldKey {
- public:
-  explicit HeldKey(WORD key) : key_(key) { Send({KeyInput(key_, false)}); }
-  ~HeldKey() {
-    INPUT up = KeyInput(key_, true);
-    SendInput(1, &up, sizeof up);
-  }
-  HeldKey(const HeldKey&) = delete;
-  HeldKey& operator=(const HeldKey&) = delete;
-
- private:
-  WORD key_;
-};
-
-/// For characters that no key of this keyboard types.
-void SendCharacter(wchar_t character) {
-  INPUT down = {};
-  down.type = INPUT_KEYBOARD;
-  down.ki.wScan = character;
-  down.ki.dwFlags = KEYEVENTF_UNICODE;
-  INPUT up = down;
-  up.ki.dwFlags |= KEYEVENTF_KEYUP;
-  Send({down, up});
-}
 
 struct Wanted {
   std::wstring_view caption;
@@ -272,55 +218,6 @@ HWND WaitForFocusWithin(HWND window) {
   return focus;
 }
 
-void Type(HWND control, std::wstring_view text) {
-  WaitForFocus(control);
-  for (const wchar_t character : text) {
-    const SHORT key = VkKeyScanW(character);
-    if (key == -1) {
-      SendCharacter(character);
-    } else {
-      SendKey(LOBYTE(key), HIBYTE(key));
-    }
-  }
-}
-
-void Press(HWND control, WORD key, int modifiers) {
-  WaitForFocus(control);
-  SendKey(key, modifiers);
-}
-
-void PressInMenu(HWND window, WORD key) {
-  WaitUntil(L"a menu is open", [window] {
-    GUITHREADINFO info = {};
-    info.cbSize = sizeof info;
-    return GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &info) != FALSE &&
-           (info.flags & GUI_INMENUMODE) != 0;
-  });
-  SendKey(key, kNone);
-}
-
-// Shift is held until the selection is there: a busy program asks for its state long after the key
-// beside it was sent. When it does not come, a person would press the keys again.
-void SelectAll(HWND field) {
-  constexpr auto kPatience = std::chrono::seconds(2);
-  const auto isSelected = [field] {
-    const LRESULT length = SendMessageW(field, WM_GETTEXTLENGTH, 0, 0);
-    return SendMessageW(field, EM_GETSEL, 0, 0) == MAKELONG(0, length);
-  };
-  WaitUntil(L"the field's text is selected", [&] {
-    Press(field, VK_HOME);
-    const HeldKey shift(VK_SHIFT);
-    Press(field, VK_END);
-    return Holds(isSelected, kPatience);
-  });
-}
-
-void TypeOver(HWND control, std::wstring_view text) {
-  SelectAll(control);
-  if (text.empty()) Press(control, VK_DELETE);
-  Type(control, text);
-}
-
 void Click(HWND window) {
   const POINT middle = MiddleOf(window);
   ClickAt(window, middle.x, middle.y);
@@ -328,16 +225,16 @@ void Click(HWND window) {
 
 void ClickButton(HWND button) {
   const POINT middle = MiddleOf(button);
-  Send({MouseInput(button, middle, 0), MouseInput(button, middle, MOUSEEVENTF_LEFTDOWN)});
+  SendInputs({MouseInput(button, middle, 0), MouseInput(button, middle, MOUSEEVENTF_LEFTDOWN)});
   WaitUntil(L"the button is down", [button] { return IsDown(button); });
-  Send({MouseInput(button, middle, MOUSEEVENTF_LEFTUP)});
+  SendInputs({MouseInput(button, middle, MOUSEEVENTF_LEFTUP)});
   WaitUntil(L"the button has come up", [button] { return !IsDown(button); });
 }
 
 void ClickAt(HWND window, int x, int y) {
   const POINT at = {x, y};
-  Send({MouseInput(window, at, 0), MouseInput(window, at, MOUSEEVENTF_LEFTDOWN),
-        MouseInput(window, at, MOUSEEVENTF_LEFTUP)});
+  SendInputs({MouseInput(window, at, 0), MouseInput(window, at, MOUSEEVENTF_LEFTDOWN),
+              MouseInput(window, at, MOUSEEVENTF_LEFTUP)});
 }
 
 std::wstring ToWide(std::string_view utf8) {

@@ -8,6 +8,8 @@
 #include <string>
 #include <string_view>
 
+#include "tests/windows/driver/Keys.h"
+
 /// Drives real windows the way a person does, in this process or in another: finds them by what is
 /// written on them, types, clicks, and reads them. Nothing sleeps for a state; everything waits for
 /// it until a deadline, and fails with a sentence that says what it was waiting for.
@@ -51,16 +53,6 @@ void WaitForFocus(HWND control);
 /// Waits until it is anywhere in this top-level window, and tells where.
 HWND WaitForFocusWithin(HWND window);
 
-/// Types at the focus, which must be, or get, in `control`.
-void Type(HWND control, std::wstring_view text);
-enum Modifier { kNone = 0, kShift = 1, kControl = 2, kAlt = 4 };
-void Press(HWND control, WORD key, int modifiers = kNone);
-/// Presses a key in the menu that is, or gets, open in this window.
-void PressInMenu(HWND window, WORD key);
-/// Selects what is in a text box.
-void SelectAll(HWND field);
-/// The same, and types over it.
-void TypeOver(HWND control, std::wstring_view text);
 /// Clicks into the middle of the window.
 void Click(HWND window);
 /// Presses a button that can be pressed, sees it go down, lets go, and sees it come up: returns

@@ -14,7 +14,7 @@ PROCESS_INFORMATION Started(const std::wstring& program, const std::wstring& arg
   PROCESS_INFORMATION process = {};
   if (!CreateProcessW(program.c_str(), line.data(), nullptr, nullptr, FALSE, 0, nullptr,
                       folder.c_str(), &startup, &process)) {
-    throw DriverError(L"Cannot start " + program);
+    throw DriverError(L"Cannot start " + program + L": error " + std::to_wstring(GetLastError()));
   }
   CloseHandle(process.hThread);
   return process;
