@@ -194,7 +194,11 @@ bool NobodyHasTheForeground() {
 void WaitForForeground(HWND window) {
   constexpr auto kPatience = std::chrono::seconds(1);
   const auto isThere = [&] { return GetForegroundWindow() == window; };
-  if (!Holds(isThere, kPatience) && NobodyHasTheForeground()) SetForegroundWindow(window);
+  Holds([&] {
+    if (Holds(isThere, kPatience)) return true;
+    if (NobodyHasTheForeground()) SetForegroundWindow(window);
+    return false;
+  });
 }
 
 }  // namespace

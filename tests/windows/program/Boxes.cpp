@@ -43,8 +43,7 @@ std::vector<SeenBox> BoxesToTheEnd(const Program& program) {
 }
 
 void ExpectNothingRuns(const std::wstring& name) {
-  EXPECT_TRUE(Holds([&] { return terminal::Running(name) == 0; }, std::chrono::seconds(5)))
-      << ToUtf8(name);
+  EXPECT_TRUE(Holds([&] { return terminal::Running(name) == 0; })) << ToUtf8(name);
 }
 
 }  // namespace driver
