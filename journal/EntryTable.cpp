@@ -25,16 +25,10 @@ constexpr std::array kAnswerReaders{
     AnswerReader{&operations::tst_list_request::kReadResponse, {L"blnKeyTST", L"blnKeyTSTList"}},
 };
 
-bool IsSame(const hostlib::Operation& one, const hostlib::Operation& other) {
-  return one.object == other.object && one.interfaceNumber == other.interfaceNumber &&
-         one.slot == other.slot;
-}
-
 template <typename Rows>
 auto Find(const Rows& rows, const hostlib::Operation* operation) noexcept -> decltype(rows.data()) {
-  if (operation == nullptr) return nullptr;
-  const auto found = std::ranges::find_if(
-      rows, [&](const auto& row) { return IsSame(*row.operation, *operation); });
+  const auto found =
+      std::ranges::find_if(rows, [&](const auto& row) { return Is(operation, *row.operation); });
   return found == rows.end() ? nullptr : &*found;
 }
 

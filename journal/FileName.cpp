@@ -18,10 +18,6 @@ bool IsLocatorCharacter(wchar_t character) {
   return common::IsLetter(character) || common::IsDigit(character);
 }
 
-bool AllDigits(std::wstring_view text) {
-  return !text.empty() && std::ranges::all_of(text, common::IsDigit);
-}
-
 int NumberIn(std::wstring_view digits) {
   int number = 0;
   for (const wchar_t digit : digits) number = number * 10 + (digit - L'0');
@@ -39,7 +35,8 @@ class Pieces {
   }
   std::optional<int> TakeNumber(std::size_t digits) {
     const std::wstring_view piece = rest_.substr(0, digits);
-    if (piece.size() != digits || !AllDigits(piece)) return std::nullopt;
+    const bool isNumber = piece.size() == digits && std::ranges::all_of(piece, common::IsDigit);
+    if (!isNumber) return std::nullopt;
     rest_.remove_prefix(digits);
     return NumberIn(piece);
   }

@@ -10,15 +10,10 @@ namespace operations = hostlib::operations;
 using hostlib::CallInfo;
 using hostlib::Value;
 
-bool Is(const CallInfo& call, const hostlib::Operation& operation) {
-  return call.operation != nullptr && call.object == operation.object &&
-         call.interfaceNumber == operation.interfaceNumber && call.slot == operation.slot;
-}
-
 bool IsMessage(const CallInfo& call) {
-  return Is(call, operations::script_error_reporter::kReportLastError) ||
-         Is(call, operations::script_error_reporter::kShowMessage) ||
-         Is(call, operations::script_error_reporter::kShowError);
+  return Is(call.operation, operations::script_error_reporter::kReportLastError) ||
+         Is(call.operation, operations::script_error_reporter::kShowMessage) ||
+         Is(call.operation, operations::script_error_reporter::kShowError);
 }
 
 std::wstring TextAt(const CallInfo& call, std::size_t index) {
@@ -95,7 +90,7 @@ void JournalHook::After(const CallInfo& call, const Value& answer) {
   payments_.After(call, answer);
   entries_.Follow(call, answer);
   if (IsMessage(call)) writer_.Write(L"Message closed");
-  if (Is(call, operations::pnr_reader::kGetRecordLocator)) {
+  if (Is(call.operation, operations::pnr_reader::kGetRecordLocator)) {
     writer_.Write(L"Record locator " + Quoted(answer));
     if (const auto* locator = answer.If<std::wstring>()) writer_.NameAfter(*locator);
   }
@@ -107,9 +102,9 @@ void JournalHook::NoteOffice(const CallInfo& call, const Value& answer) {
   constexpr std::wstring_view kOffice = L"OfficeID";
   constexpr std::size_t kNameAt = 2;
   if (TextAt(call, kNameAt) != kOffice) return;
-  if (Is(call, operations::user_settings_store::kGetSetting)) {
+  if (Is(call.operation, operations::user_settings_store::kGetSetting)) {
     writer_.Write(L"Office " + Quoted(answer) + L", as found last");
-  } else if (Is(call, operations::user_settings_store::kSaveSetting)) {
+  } else if (Is(call.operation, operations::user_settings_store::kSaveSetting)) {
     writer_.Write(L"Office " + Quoted(call.arguments.back()) + L", as the host says");
   }
 }

@@ -35,10 +35,11 @@ std::wstring Folded(std::wstring_view text) {
   return folded;
 }
 
-// SEK1250 or SEK12.50: stands all over a booking, and tells nobody's number.
+// SEK1250 or SEK12.50: stands all over a booking, and tells nobody's number. Not for shorter parts
+// than those that are looked for.
 bool IsAmount(std::wstring_view part) {
   constexpr std::size_t kCurrency = 3;
-  if (part.size() <= kCurrency) return false;
+  static_assert(kShortestPart > kCurrency);
   return std::all_of(part.begin(), part.begin() + kCurrency, common::IsLetter) &&
          std::all_of(part.begin() + kCurrency, part.end(),
                      [](wchar_t c) { return common::IsDigit(c) || c == L'.'; });

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "common/Text.h"
+#include "journal/EntryTable.h"
 
 namespace journal {
 namespace {
@@ -40,11 +41,6 @@ std::wstring_view WithoutNumber(std::wstring_view text) {
   return isNumbered ? text.substr(digits + 1) : text;
 }
 
-bool Is(const hostlib::CallInfo& call, const hostlib::Operation& operation) {
-  return call.operation != nullptr && call.object == operation.object &&
-         call.interfaceNumber == operation.interfaceNumber && call.slot == operation.slot;
-}
-
 std::wstring_view KeyOf(const hostlib::CallInfo& call) {
   const auto* key = call.arguments.empty() ? nullptr : call.arguments.front().If<std::wstring>();
   return key == nullptr ? std::wstring_view() : *key;
@@ -59,15 +55,16 @@ bool IsPaymentKey(std::wstring_view key) {
 bool HoldsPayment(std::wstring_view controlName) { return controlName == kPaymentControl; }
 
 void PaymentWatch::Before(const hostlib::CallInfo& call) {
-  if (Is(call, operations::pnr_element_builder::kExecuteFP)) Declare(elementText_);
-  if (!Is(call, operations::parameter_bag::kSetValue) || call.arguments.size() != 2) return;
+  if (Is(call.operation, operations::pnr_element_builder::kExecuteFP)) Declare(elementText_);
+  if (!Is(call.operation, operations::parameter_bag::kSetValue) || call.arguments.size() != 2)
+    return;
   const std::wstring_view key = KeyOf(call);
   if (key == kElementTextKey) elementText_ = call.arguments[1];
   if (IsPaymentKey(key)) Declare(call.arguments[1]);
 }
 
 void PaymentWatch::After(const hostlib::CallInfo& call, const hostlib::Value& answer) {
-  if (Is(call, operations::parameter_bag::kGetValue)) {
+  if (Is(call.operation, operations::parameter_bag::kGetValue)) {
     const bool isPayment = IsPaymentKey(KeyOf(call));
     listHoldsPayments_ = isPayment && answer.IsObject();
     if (isPayment) Declare(answer);

@@ -49,6 +49,13 @@ TEST(FileName, OfAnyOtherFormIsNotOurs) {
   }
 }
 
+TEST(FileName, WithoutAMarkOrWithALetterInItsDateIsNotOurs) {
+  for (const wchar_t* name : {L"PTA_200702-20_130705.txt", L"PTA_2007-0220_130705.txt",
+                              L"PTA_2007-02-20130705.txt", L"PTA_2007-02-2O_130705.txt"}) {
+    EXPECT_EQ(DayIn(name), std::nullopt) << common::ToUtf8(name);
+  }
+}
+
 TEST(OldFiles, AreRemovedAfterThirtyDaysAndNothingElseIs) {
   FolderInMemory folder;
   folder.files = {{L"PTA_2007-01-21_235959_ABC123.txt", ""},  // thirty days: stays

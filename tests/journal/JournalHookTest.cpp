@@ -179,6 +179,19 @@ TEST_F(JournalHookTest, DoesNotTakeAnotherAnswersFlagsForTheEntrys) {
   EXPECT_EQ(States().front(), std::wstring(L"Entry 1 ") + kNotJudged);
 }
 
+TEST_F(JournalHookTest, TakesFlagsReadFromNoTextForNoAnswerOfTheEntry) {
+  const auto answer = scripted.Bag({{L"blnKeyPNRFound", Value(true)}});
+  scripted.Answer(operations::pnr_element_entry::kReadResponse, hostlib::ObjectPtr(answer));
+  SessionAnswers(L"NEW");
+  session.SendEntry(L"RM X");
+  const hostlib::ObjectPtr reader = library.Create(operations::pnr_element_entry::kClass);
+  const int slot = operations::pnr_element_entry::kReadResponse.slot;
+  for (const hostlib::Arguments& arguments : {hostlib::Arguments{}, hostlib::Arguments{Value(7)}}) {
+    ParameterBag(reader->Call(slot, arguments)).GetValue(L"blnKeyPNRFound");
+  }
+  EXPECT_EQ(States().front(), std::wstring(L"Entry 1 ") + kNotJudged);
+}
+
 TEST_F(JournalHookTest, SettlesAnEntryBeforeTheNextOneIsWritten) {
   SessionAnswers(L"TST 1");
   session.SendEntry(L"TQT");
@@ -258,7 +271,7 @@ TEST_F(JournalHookTest, MasksTheTextOfAFormOfPaymentElementAndOfNoOther) {
 TEST_F(JournalHookTest, MasksAFormOfPaymentThatADisplayShows) {
   SessionAnswers(
       L"4 MCO SK,FP INVOICE A,FA 117\r\n7 FP CHEQUE [P1]\r\nFP 7 VOUCHER\r\nFOP GRANT77\r\n"
-      L"8 FP O/PT/COUPON\r\nXFP 12");
+      L"8 FP O/PT/COUPON\r\n9 FP 7CASH\r\nXFP 12");
   session.SendEntry(L"RT");
   const std::wstring journal = bench.folder.Text();
   EXPECT_NE(journal.find(L"    | 4 MCO SK,FP <payment>,FA 117\n"
@@ -266,6 +279,7 @@ TEST_F(JournalHookTest, MasksAFormOfPaymentThatADisplayShows) {
                          L"    | FP 7 <payment>\n"
                          L"    | FOP <payment>\n"
                          L"    | 8 FP <payment>\n"
+                         L"    | 9 FP <payment>\n"
                          L"    | XFP 12\n"),
             journal.npos)
       << common::ToUtf8(journal);
@@ -307,6 +321,14 @@ TEST_F(JournalHookTest, MasksAnOfficeThatADisplayShowsAsAFormOfPayment) {
   store.SaveSetting(L"PTAStartup", L"Values", L"OfficeID", L"STOSK08AA");
   EXPECT_THAT(bench.OwnLines(), testing::IsSupersetOf({L"Office \"<payment>\", as found last",
                                                        L"Office \"<payment>\", as the host says"}));
+}
+
+TEST_F(JournalHookTest, TakesAMessageThatSaysOfficeIDForNoOffice) {
+  scripted.Answer(operations::script_error_reporter::kShowMessage, {});
+  hostlib::ScriptErrorReporter reporter;
+  reporter.Create(library);
+  reporter.ShowMessage(7, L"title", L"OfficeID");
+  EXPECT_THAT(bench.OwnLines(), ElementsAre(L"Message by ShowMessage:", L"Message closed"));
 }
 
 TEST_F(JournalHookTest, TakesOnlyTheSessionsOperationsForEntries) {

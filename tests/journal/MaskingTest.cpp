@@ -38,12 +38,21 @@ TEST(Masking, HidesThePartsOfAValueOnTheirOwn) {
 }
 
 TEST(Masking, LeavesAmountsAndPartsThatTellNothing) {
-  const std::wstring text = L"SEK500 AT 1209 ON PT";
-  EXPECT_EQ(Masked(L"O/PT/CASH/SEK500/1209", text), text);
+  const std::wstring text = L"SEK500 OR SEK12.50 AT 1209 ON PT";
+  EXPECT_EQ(Masked(L"O/PT/CASH/SEK500/1209/SEK12.50", text), text);
 }
 
 TEST(Masking, HidesAShortValueOnlyAsAWord) {
   EXPECT_EQ(Masked(L"CA", L"FP CA BY CARRIER OR X/CA"), L"FP <payment> BY CARRIER OR X/<payment>");
+}
+
+TEST(Masking, TakesALetterOrADigitNextToAShortValueForTheRestOfAWord) {
+  EXPECT_EQ(Masked(L"CA", L"CA 7CA CA8 XCA"), L"<payment> 7CA CA8 XCA");
+}
+
+TEST(Masking, LeavesTheLastFourDigitsOfTwoCardsInOneValueOnce) {
+  EXPECT_EQ(Masked(L"4929876538712343+4111111111111111", L"FP 4929876538712343+4111111111111111."),
+            L"FP <payment 1111>.");
 }
 
 TEST(Masking, HidesTheLongerOfTwoValuesAndWhatTheyShare) {

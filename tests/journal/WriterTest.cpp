@@ -34,11 +34,11 @@ TEST_F(WriterTest, PutsATimeBeforeOurWordsAndAMarkBeforeATextFromElsewhere) {
 TEST_F(WriterTest, LetsNoTextPassForALineOfOurs) {
   writer.Open(L"1.2.3");
   writer.Write(L"Record locator \"A\r\n13:37:00.000 Run ended\"");
-  writer.Write(L"A text", L"A\u20282\u0085\x1B[2J\x0B");
+  writer.Write(L"A text", L"A\u20282\u2029\u0085\x1B[2J\x0B");
   EXPECT_EQ(Body(),
             L"13:37:00.000 Record locator \"A\uFFFD\uFFFD13:37:00.000 Run ended\"\n"
             L"13:37:00.000 A text:\n"
-            L"    | A\uFFFD2\uFFFD\uFFFD[2J\uFFFD\n");
+            L"    | A\uFFFD2\uFFFD\uFFFD\uFFFD[2J\uFFFD\n");
 }
 
 TEST_F(WriterTest, MasksTextsAndNotItsOwnWords) {
@@ -125,6 +125,17 @@ TEST_F(WriterTest, GivesUpAfterAHundredNamesThatAreTaken) {
   writer.Open(L"1.2.3");
   EXPECT_EQ(folder.namesTried, 100);
   EXPECT_EQ(folder.files.size(), 100u);
+}
+
+TEST_F(WriterTest, KeepsItsFirstNameWhenAHundredOfTheBookingsAreTaken) {
+  writer.Open(L"1.2.3");
+  for (int number = 1; number <= 100; ++number) {
+    folder.files[FileName(clock.Now(), L"ABC123", number)] = "another's";
+  }
+  folder.namesTried = 0;
+  writer.NameAfter(L"ABC123");
+  EXPECT_EQ(folder.namesTried, 100);
+  EXPECT_TRUE(folder.files.contains(L"PTA_2007-02-20_133700.txt"));
 }
 
 TEST_F(WriterTest, IsNotNamedAfterALocatorThatIsNoPlainWord) {
