@@ -132,7 +132,8 @@ bool TSMList::Select() {
   }
   ChooseFromList();
   if (!GetTSMList(tsm_.intSelectedMCO)) return false;
-  if (!tsm_.blnTSMFound || !tsm_.blnMCOFeeFound) {
+  // A display of one TSM that was read has its fee.
+  if (!tsm_.blnTSMFound) {
     errors_.Report(procedures::kNoMCOFee, L" " + tsm_.strErrResponse);
     return false;
   }

@@ -46,8 +46,8 @@ void frmWaitForMCO::OnLoad() {
     Unload();
     return;
   }
-  if (!anyMCO) EndWithoutMCO();
-  if (mcoCount_ != 0 && mcoCount_ <= faCount_) {
+  if (!anyMCO) EndWithoutMCO();  // does not come back
+  if (mcoCount_ <= faCount_) {
     EndWaiting();
   } else {
     StartWaiting();

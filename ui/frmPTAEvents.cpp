@@ -28,16 +28,14 @@ struct TypingRule {
 
 /// "P&WCT:" is PWCT.
 std::wstring NameOf(const Label& label) {
-  std::wstring name = common::Replace(label.Text(), L"&", L"");
-  if (!name.empty() && name.back() == L':') name.pop_back();
-  return name;
+  return common::Replace(common::Replace(label.Text(), L"&", L""), L":", L"");
 }
 
+/// Every field has its help by then: what it does as the focus comes goes on.
 void BindTyping(const TypingRule& rule, Desktop& desktop) {
-  rule.field.onKeyPress = [&desktop, upperCases = rule.upperCases,
-                           allows = rule.allows](wchar_t& character) {
-    if (upperCases) character = common::UpperCase(character);
-    if (allows == nullptr || character == kBackspace || allows(character)) return;
+  rule.field.onKeyPress = [&desktop, rule](wchar_t& character) {
+    if (rule.upperCases) character = common::UpperCase(character);
+    if (rule.allows == nullptr || character == kBackspace || rule.allows(character)) return;
     character = kRefused;
     desktop.Beep();
   };
@@ -47,7 +45,7 @@ void BindTyping(const TypingRule& rule, Desktop& desktop) {
   if (rule.selectsAll) {
     rule.field.onGotFocus = [&field = rule.field, status = rule.field.onGotFocus] {
       field.SelectAll();
-      if (status) status();
+      status();
     };
   }
 }

@@ -170,5 +170,17 @@ TEST(DialogFields, OnlyWhatIsStillEmptyTakesWhatTheTSTsGave) {
   EXPECT_EQ(bench.mco.strCommission, L"9");
 }
 
+// A change, be it to nothing, evaluates OK and speaks in the status line.
+TEST(DialogFields, WhatTheTSTsDidNotGiveEitherIsNotTouched) {
+  Bench bench;
+  int changes = 0;
+  for (ui::TextBox* field :
+       {&bench.dialog.txtCarrier, &bench.dialog.txtFormOfPayment, &bench.dialog.txtCommission}) {
+    field->onChange = [&] { ++changes; };
+  }
+  bench.fields.FillWhatIsStillEmpty();
+  EXPECT_EQ(changes, 0);
+}
+
 }  // namespace
 }  // namespace app

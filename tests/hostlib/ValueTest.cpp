@@ -63,7 +63,16 @@ TEST(Value, IsDescribedByItsKindAndContent) {
   EXPECT_EQ(Describe(Value(240.5)), L"240.5");
   EXPECT_EQ(Describe(Value(TextArray{{L"a", L"b"}, 1})), L"[\"a\", \"b\"] from 1");
   EXPECT_EQ(Describe(Value(IntegerArray{{1, 2}, 0})), L"[1, 2]");
+  EXPECT_EQ(Describe(Value(DoubleArray{{1.5, 2}, 1})), L"[1.5, 2] from 1");
   EXPECT_EQ(Describe(Value(ObjectPtr())), L"Nothing");
+}
+
+TEST(LibraryError, KeepsThePlaceThatTheInnermostGaveIt) {
+  LibraryError error(1, L"source", L"text");
+  error.Locate(L"ParameterBag", L"GetValue");
+  error.Locate(L"PnrReader", L"GetHeader");
+  EXPECT_EQ(error.object(), L"ParameterBag");
+  EXPECT_EQ(error.operation(), L"GetValue");
 }
 
 }  // namespace

@@ -281,6 +281,15 @@ TEST(Focus, OnlyControlsOfTheUserThatAreOnTakeTheFocus) {
   EXPECT_EQ(bench.form.ActiveControl(), nullptr);
 }
 
+TEST(Form, TheViewHearsOfCaptionPointerAndKeyPreview) {
+  ControlsBench bench;
+  bench.form.SetCaption(L"Caption");
+  bench.form.SetPointer(MousePointer::kHourglass);
+  EXPECT_EQ(bench.view.formSets, 2);
+  bench.form.SetKeyPreview(true);
+  EXPECT_EQ(bench.view.formSets, 3);
+}
+
 TEST(InputGate, ItIsShutForALifetimeAndNests) {
   InputGate gate;
   EXPECT_TRUE(gate.IsOpen());

@@ -217,6 +217,24 @@ TEST(Form, AHiddenFormIsDestroyedUnnoticed) {
   EXPECT_EQ(view.gone, 0);
 }
 
+TEST(Form, AFormThatItsViewLeftHidesAndTakesNoFocus) {
+  ShownBench bench;
+  bench.form.Detach();
+  bench.form.first.SetFocus();
+  EXPECT_EQ(bench.form.ActiveControl(), nullptr);
+  bench.form.Hide();
+  EXPECT_FALSE(bench.form.IsVisible());
+  EXPECT_EQ(bench.desktop.log, Events{});
+}
+
+TEST(Form, TheCloseBoxOfAFormWithoutAnAnswerToItLeavesItAsItIs) {
+  ShownBench bench;
+  bench.form.OnCloseBox();
+  EXPECT_TRUE(bench.form.IsLoaded());
+  EXPECT_TRUE(bench.form.IsVisible());
+  EXPECT_EQ(bench.form.TakeEvents(), Events{});
+}
+
 TEST(Form, SettingsOfAFormWithoutADesktopAreKept) {
   FormBench bench;
   bench.form.SetCaption(L"Caption");

@@ -136,6 +136,14 @@ TEST(Help, F1ShowsTheExactTextInAPlainBoxOrNothingAtAll) {
   }
 }
 
+TEST(Help, F1ShowsNothingOnAFieldWithoutHelp) {
+  HelpBench bench;
+  for (const std::wstring& name : kWithoutHelp) {
+    bench.form.Find(name)->onKeyDown(kF1);
+    EXPECT_EQ(bench.TakeLog(), Lines{}) << common::ToUtf8(name);
+  }
+}
+
 TEST(Help, F1GivesTheFocusBack) {
   HelpBench bench;
   bench.form.txtPWCT.SetFocus();

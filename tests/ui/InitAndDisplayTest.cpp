@@ -21,6 +21,15 @@ struct Filled : DialogBench {
   }
 };
 
+TEST(Unload, ADialogThatNoRunHasTakenYetCanGo) {
+  DialogBench bench;
+  frmPTA dialog(bench.desktop, bench.room.errors, bench.room.runEnd);
+  dialog.Load();
+  dialog.Unload();
+  EXPECT_FALSE(dialog.IsLoaded());
+  EXPECT_EQ(bench.TakeLog(), Lines{});
+}
+
 TEST(FormInit, KeysArePreviewedOKIsOffAndTheHourglassIsUp) {
   DialogBench bench;
   bench.form.Form_Init();
