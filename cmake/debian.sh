@@ -8,7 +8,7 @@ say() { printf '== %s\n' "$*"; }
 #   packaging the installer's compiler, zip, and what makes web pages of the guides
 #   checks    clang-format
 #   fuzz      clang with its libFuzzer and sanitizers
-#   coverage  gcovr
+#   coverage  what reads the compiler's counts
 #   bench     Google Benchmark, and the counter of instructions
 install_missing() {
   local part package
@@ -23,7 +23,7 @@ install_missing() {
       packaging) wanted+=(nsis zip git cmark-gfm) ;;
       fuzz) wanted+=(clang libclang-rt-14-dev) ;;
       checks) wanted+=(clang-format git) ;;
-      coverage) wanted+=(gcovr) ;;
+      coverage) wanted+=(python3) ;;
       bench) wanted+=(libbenchmark-dev valgrind) ;;
     esac
   done
