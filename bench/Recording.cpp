@@ -55,9 +55,9 @@ class RecordingObject : public hostlib::Object {
 
  private:
   // What the library gets: its own objects, not ours.
-  Arguments Note(const Arguments& arguments, Step& step) const {
-    Arguments given = arguments;
-    step.arguments = arguments;
+  std::vector<Value> Note(const Arguments& arguments, Step& step) const {
+    std::vector<Value> given(arguments.begin(), arguments.end());
+    step.arguments = given;
     for (std::size_t i = 0; i < given.size(); ++i) {
       const auto* object = given[i].If<ObjectPtr>();
       if (object == nullptr) continue;
@@ -117,7 +117,7 @@ void Replay(const Recording& recording, hostlib::Library& library) {
         objects[step.object] = nullptr;
         break;
       case Step::Kind::kCall: {
-        Arguments arguments = step.arguments;
+        std::vector<Value> arguments = step.arguments;
         for (const auto& [argument, object] : step.objects) arguments[argument] = objects[object];
         const Value answer = objects[step.object]->Call(step.number, arguments);
         if (step.made != Step::kNone) objects[step.made] = answer.AsObject();

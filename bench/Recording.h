@@ -17,7 +17,7 @@ struct Step {
   std::size_t made = kNone;    ///< the object that came of it
   std::wstring className;      ///< of what was made
   int number = 0;              ///< slot or interface
-  hostlib::Arguments arguments;
+  std::vector<hostlib::Value> arguments;
   std::vector<std::pair<std::size_t, std::size_t>> objects;  ///< argument and the object in it
   hostlib::Value answer;                                     ///< unless it is an object
 };

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+
 #include "hostlib/Object.h"
 #include "hostlib/Operations.h"
 
@@ -19,10 +21,7 @@ class Facade {
   /// been released.
   template <typename... Values>
   Value Call(const Operation& operation, Values&&... values) const {
-    // Made in their place: what stands in a list in braces would be copied out of it.
-    Arguments arguments;
-    arguments.reserve(sizeof...(values));
-    (arguments.emplace_back(std::forward<Values>(values)), ...);
+    const std::array<Value, sizeof...(values)> arguments{Value(std::forward<Values>(values))...};
     return CallWith(operation, arguments);
   }
 

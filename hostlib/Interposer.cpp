@@ -38,8 +38,8 @@ class InterposedObject : public Object {
 
  private:
   // The library must get its own objects back, not ours.
-  static Arguments Unwrapped(const Arguments& arguments) {
-    Arguments inner = arguments;
+  static std::vector<Value> Unwrapped(const Arguments& arguments) {
+    std::vector<Value> inner(arguments.begin(), arguments.end());
     for (Value& value : inner) {
       const auto* object = value.If<ObjectPtr>();
       if (object == nullptr) continue;

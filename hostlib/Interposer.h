@@ -13,7 +13,7 @@ struct CallInfo {
   int interfaceNumber;
   int slot;
   const Operation* operation;  ///< null for an operation that this program does not use
-  const Arguments& arguments;
+  Arguments arguments;
 };
 
 /// What stands between the program and a library: sees every object come and go and every call,

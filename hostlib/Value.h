@@ -1,7 +1,9 @@
 #pragma once
 
 #include <cstdint>
+#include <initializer_list>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -95,7 +97,13 @@ class Value {
   Content content_;
 };
 
-using Arguments = std::vector<Value>;
+/// What a call is given, in the order of its arguments, until it returns: whoever keeps it longer
+/// copies the values. A list in braces is for a call only, never for a variable.
+class Arguments : public std::span<const Value> {
+ public:
+  using span::span;
+  Arguments(std::initializer_list<Value> values) : span(values.begin(), values.size()) {}
+};
 
 /// The value as one line for transcripts and messages: texts quoted, booleans True and False,
 /// arrays in brackets, objects by class name.

@@ -101,7 +101,7 @@ HRESULT OwnObject::Invoke(DISPID member, REFIID, LCID, WORD kind, DISPPARAMS* pa
 
 void OwnObject::Answer(Object& object, DISPID member, const DISPPARAMS& parameters,
                        VARIANT* result) {
-  Arguments arguments;
+  std::vector<Value> arguments;
   for (UINT i = parameters.cArgs; i > 0; --i) {
     arguments.push_back(FromVariant(parameters.rgvarg[i - 1], gate_, {}));
   }

@@ -186,9 +186,8 @@ TEST_F(JournalHookTest, TakesFlagsReadFromNoTextForNoAnswerOfTheEntry) {
   session.SendEntry(L"RM X");
   const hostlib::ObjectPtr reader = library.Create(operations::pnr_element_entry::kClass);
   const int slot = operations::pnr_element_entry::kReadResponse.slot;
-  for (const hostlib::Arguments& arguments : {hostlib::Arguments{}, hostlib::Arguments{Value(7)}}) {
-    ParameterBag(reader->Call(slot, arguments)).GetValue(L"blnKeyPNRFound");
-  }
+  ParameterBag(reader->Call(slot, {})).GetValue(L"blnKeyPNRFound");
+  ParameterBag(reader->Call(slot, {Value(7)})).GetValue(L"blnKeyPNRFound");
   EXPECT_EQ(States().front(), std::wstring(L"Entry 1 ") + kNotJudged);
 }
 

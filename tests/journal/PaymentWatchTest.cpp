@@ -11,30 +11,35 @@ using hostlib::CallInfo;
 using hostlib::Value;
 
 struct PaymentWatchTest : testing::Test {
-  static CallInfo Call(const hostlib::Operation& operation, const Arguments& arguments) {
-    return {operation.object, operation.interfaceNumber, operation.slot, &operation, arguments};
+  void Before(const hostlib::Operation& operation, const Arguments& arguments) {
+    watch.Before(Call(operation, arguments));
+  }
+  void After(const hostlib::Operation& operation, const Arguments& arguments, const Value& answer) {
+    watch.After(Call(operation, arguments), answer);
   }
 
   Masking masking;
   PaymentWatch watch{masking};
+
+ private:
+  static CallInfo Call(const hostlib::Operation& operation, const Arguments& arguments) {
+    return {operation.object, operation.interfaceNumber, operation.slot, &operation, arguments};
+  }
 };
 
 TEST_F(PaymentWatchTest, DeclaresTheValueOfAPaymentsKey) {
-  const Arguments arguments{Value(L"strKeyMCOFPElement")};
-  watch.After(Call(bag::kGetValue, arguments), Value(L"GRANT77"));
+  After(bag::kGetValue, {Value(L"strKeyMCOFPElement")}, Value(L"GRANT77"));
   EXPECT_EQ(masking.Masked(L"GRANT77"), L"<payment>");
 }
 
 TEST_F(PaymentWatchTest, DeclaresNothingForACallWithoutAKey) {
-  for (const Arguments& arguments : {Arguments{}, Arguments{Value(7)}}) {
-    watch.After(Call(bag::kGetValue, arguments), Value(L"GRANT77"));
-  }
+  After(bag::kGetValue, {}, Value(L"GRANT77"));
+  After(bag::kGetValue, {Value(7)}, Value(L"GRANT77"));
   EXPECT_EQ(masking.Masked(L"GRANT77"), L"GRANT77");
 }
 
 TEST_F(PaymentWatchTest, DeclaresNothingForAKeyWithoutAValue) {
-  const Arguments arguments{Value(L"strKeyFPElementValue")};
-  watch.Before(Call(bag::kSetValue, arguments));
+  Before(bag::kSetValue, {Value(L"strKeyFPElementValue")});
   EXPECT_EQ(masking.Masked(L"strKeyFPElementValue"), L"strKeyFPElementValue");
 }
 

@@ -14,7 +14,7 @@ TEST_F(LibraryObjects, EveryOperationOfTheSeamIsThere) {
   for (const hostlib::Operation& operation : hostlib::AllOperations()) {
     if (operation.object == hostlib::operations::kList) continue;
     const auto object = bench.library.Create(operation.object);
-    hostlib::Arguments arguments(static_cast<std::size_t>(operation.arguments),
+    std::vector<Value> arguments(static_cast<std::size_t>(operation.arguments),
                                  Value(bench.library.Create(hostlib::operations::kBag)));
     try {
       object->Interface(operation.interfaceNumber)->Call(operation.slot, arguments);

@@ -31,8 +31,8 @@ class SpoiltOffice : public hostlib::CallHook {
   explicit SpoiltOffice(std::function<hostlib::Value()> answer) : answer_(std::move(answer)) {}
   hostlib::Value OnCall(const hostlib::CallInfo& call,
                         const std::function<hostlib::Value()>& proceed) override {
-    const bool isIt =
-        call.object == L"ProfileStore" && call.arguments.at(2) == hostlib::Value(L"OfficeIDSK");
+    const bool isIt = call.object == L"ProfileStore" && call.arguments.size() > 2 &&
+                      call.arguments[2] == hostlib::Value(L"OfficeIDSK");
     return isIt ? answer_() : proceed();
   }
 
