@@ -12,7 +12,7 @@ namespace {
 constexpr int kF1 = 112;
 
 [[noreturn]] void Fail(const ui::Control& control, const std::wstring& reason) {
-  throw ActionRefused(control.name() + L" " + reason);
+  throw ActionRefused(std::wstring(control.name()) + L" " + reason);
 }
 
 int NumberIn(const ui::Control& control, const std::wstring& words) {
@@ -164,7 +164,7 @@ void FormActions::CheckState(const ui::Control& control, const std::wstring& sta
 std::vector<std::wstring> DescribeControls(const ui::Form& form) {
   std::vector<std::wstring> lines;
   for (const ui::Control* control : form.controls()) {
-    lines.push_back(L"  " + control->name() + L" \"" + control->Text() + L"\"" +
+    lines.push_back(L"  " + std::wstring(control->name()) + L" \"" + control->Text() + L"\"" +
                     StateWords(*control));
     if (const auto* list = As<ui::ListBox>(*control)) {
       for (const ui::ListBox::Item& item : list->Items()) {

@@ -52,7 +52,7 @@ TEST(FrmSelectMCO, TheListIsFirstInTheTabOrderThenTheButtons) {
   const frmSelectMCO form;
   std::vector<std::wstring> order;
   for (const ui::Control* control : form.controls()) {
-    if (control->CanFocus()) order.push_back(control->name());
+    if (control->CanFocus()) order.emplace_back(control->name());
   }
   EXPECT_EQ(order, (std::vector<std::wstring>{L"lstMCO", L"btnOK", L"btnCancel"}));
 }

@@ -50,7 +50,7 @@ TEST(frmSelectTST, TheHeadingHas91CharactersInItsColumns) {
 TEST(frmSelectTST, TheControlsStandInTabOrder) {
   DialogBench bench;
   Lines names;
-  for (const ui::Control* control : bench.form.controls()) names.push_back(control->name());
+  for (const ui::Control* control : bench.form.controls()) names.emplace_back(control->name());
   EXPECT_EQ(names,
             (Lines{L"lblSelectTST", L"lblSelectHeading", L"lstTST", L"cmdOK", L"cmdCancel"}));
 }

@@ -270,7 +270,7 @@ TEST(Focus, OnlyControlsOfTheUserThatAreOnTakeTheFocus) {
   ControlsBench bench;
   std::vector<std::wstring> takes;
   for (Control* control : bench.form.controls()) {
-    if (control->CanFocus()) takes.push_back(control->name());
+    if (control->CanFocus()) takes.emplace_back(control->name());
   }
   EXPECT_EQ(takes, (Events{L"text", L"check", L"button", L"single", L"multiple"}));
   bench.form.text.SetEnabled(false);

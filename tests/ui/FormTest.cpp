@@ -11,8 +11,12 @@ using Events = std::vector<std::wstring>;
 struct WatchedForm : Form {
   WatchedForm() : Form(L"WatchedForm") {
     for (Control* control : controls()) {
-      control->onGotFocus = [this, control] { events.push_back(L"got " + control->name()); };
-      control->onLostFocus = [this, control] { events.push_back(L"lost " + control->name()); };
+      control->onGotFocus = [this, control] {
+        events.push_back(L"got " + std::wstring(control->name()));
+      };
+      control->onLostFocus = [this, control] {
+        events.push_back(L"lost " + std::wstring(control->name()));
+      };
     }
   }
   void OnLoad() override {

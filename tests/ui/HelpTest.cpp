@@ -84,8 +84,8 @@ const std::vector<Help> kHelp = {
     {L"cmdCancel", L"Press Enter to exit without any updates", L""},
 };
 
-const std::set<std::wstring> kWithoutHelp = {L"txtFormOfPayment", L"txtAirlinePrefix",
-                                             L"txtMCONumber", L"txtCarrier", L"txtMCOFee"};
+const std::set<std::wstring_view> kWithoutHelp = {L"txtFormOfPayment", L"txtAirlinePrefix",
+                                                  L"txtMCONumber", L"txtCarrier", L"txtMCOFee"};
 
 /// Everything on, so that every control can take the focus.
 struct HelpBench : DialogBench {
@@ -138,7 +138,7 @@ TEST(Help, F1ShowsTheExactTextInAPlainBoxOrNothingAtAll) {
 
 TEST(Help, F1ShowsNothingOnAFieldWithoutHelp) {
   HelpBench bench;
-  for (const std::wstring& name : kWithoutHelp) {
+  for (const std::wstring_view name : kWithoutHelp) {
     bench.form.Find(name)->onKeyDown(kF1);
     EXPECT_EQ(bench.TakeLog(), Lines{}) << common::ToUtf8(name);
   }
@@ -167,7 +167,7 @@ TEST(Help, NoOtherKeyShowsABox) {
 
 TEST(Help, EveryControlThatTakesTheFocusHasHelpButTheFieldsThatAreOnlyLookedAt) {
   HelpBench bench;
-  std::set<std::wstring> helped;
+  std::set<std::wstring_view> helped;
   for (const Help& help : kHelp) helped.insert(help.control);
   for (Control* control : bench.form.controls()) {
     if (!control->CanFocus()) continue;
@@ -179,7 +179,7 @@ TEST(Help, EveryControlThatTakesTheFocusHasHelpButTheFieldsThatAreOnlyLookedAt) 
 
 TEST(Help, AFieldWithoutHelpLeavesTheStatusEmptyWhileEverythingIsComplete) {
   HelpBench bench;
-  for (const std::wstring& name : kWithoutHelp) {
+  for (const std::wstring_view name : kWithoutHelp) {
     bench.form.Find(name)->SetFocus();
     EXPECT_EQ(bench.form.staStatusText.Text(), L"") << common::ToUtf8(name);
   }

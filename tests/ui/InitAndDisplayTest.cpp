@@ -244,7 +244,7 @@ TEST(FormDisplay, TheFeeIsLockedFromTheStartAndTheDocumentFieldsWhenTold) {
     Lines names;
     for (Control* control : form.controls()) {
       const auto* field = dynamic_cast<TextBox*>(control);
-      if (field != nullptr && field->Locked()) names.push_back(field->name());
+      if (field != nullptr && field->Locked()) names.emplace_back(field->name());
     }
     return names;
   };

@@ -4,7 +4,7 @@
 
 namespace ui {
 
-Control::Control(Form& form, ControlKind kind, std::wstring_view name)
+Control::Control(Form& form, ControlKind kind, common::Literal name)
     : form_(form), kind_(kind), name_(name) {
   form_.Add(*this);
 }

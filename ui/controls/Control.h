@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "common/Literal.h"
+
 namespace ui {
 
 class Form;
@@ -36,13 +38,13 @@ enum class ControlKind {
 /// shows the form; what the user does comes from the desktop and raises only the event.
 class Control {
  public:
-  Control(Form& form, ControlKind kind, std::wstring_view name);
+  Control(Form& form, ControlKind kind, common::Literal name);
   virtual ~Control() = default;
   Control(const Control&) = delete;
   Control& operator=(const Control&) = delete;
 
   ControlKind kind() const { return kind_; }
-  const std::wstring& name() const { return name_; }
+  std::wstring_view name() const { return name_; }
   Form& form() const { return form_; }
 
   /// The text of a text box or status bar; the caption of everything else.
@@ -71,7 +73,7 @@ class Control {
  private:
   Form& form_;
   ControlKind kind_;
-  std::wstring name_;
+  common::Literal name_;
   std::wstring text_;
   bool enabled_ = true;
 };

@@ -4,26 +4,25 @@
 
 namespace ui {
 
-Label::Label(Form& form, std::wstring_view name, std::wstring_view caption)
-    : Control(form, ControlKind::kLabel, name) {
+using common::Literal;
+
+Label::Label(Form& form, Literal name, Literal caption) : Control(form, ControlKind::kLabel, name) {
   StoreText(caption);
 }
 
-ListHeading::ListHeading(Form& form, std::wstring_view name, std::wstring_view caption,
+ListHeading::ListHeading(Form& form, Literal name, std::wstring_view caption,
                          std::vector<int> columns)
     : Control(form, ControlKind::kListHeading, name), columns_(std::move(columns)) {
   StoreText(caption);
 }
 
-Frame::Frame(Form& form, std::wstring_view name, std::wstring_view caption)
-    : Control(form, ControlKind::kFrame, name) {
+Frame::Frame(Form& form, Literal name, Literal caption) : Control(form, ControlKind::kFrame, name) {
   StoreText(caption);
 }
 
-StatusBar::StatusBar(Form& form, std::wstring_view name)
-    : Control(form, ControlKind::kStatusBar, name) {}
+StatusBar::StatusBar(Form& form, Literal name) : Control(form, ControlKind::kStatusBar, name) {}
 
-TextBox::TextBox(Form& form, std::wstring_view name) : Control(form, ControlKind::kTextBox, name) {}
+TextBox::TextBox(Form& form, Literal name) : Control(form, ControlKind::kTextBox, name) {}
 
 void TextBox::SetText(std::wstring_view text) {
   selectionStart_ = 0;
@@ -67,7 +66,7 @@ wchar_t TextBox::FilterKey(wchar_t character) {
   return character;
 }
 
-CheckBox::CheckBox(Form& form, std::wstring_view name, std::wstring_view caption)
+CheckBox::CheckBox(Form& form, Literal name, Literal caption)
     : Control(form, ControlKind::kCheckBox, name) {
   StoreText(caption);
 }
@@ -84,7 +83,7 @@ void CheckBox::Clicked(bool value) {
   if (onClick) onClick();
 }
 
-Button::Button(Form& form, std::wstring_view name, std::wstring_view caption)
+Button::Button(Form& form, Literal name, Literal caption)
     : Control(form, ControlKind::kButton, name) {
   StoreText(caption);
 }
@@ -93,7 +92,7 @@ void Button::Clicked() {
   if (onClick) onClick();
 }
 
-ListBox::ListBox(Form& form, std::wstring_view name, Selection selection)
+ListBox::ListBox(Form& form, Literal name, Selection selection)
     : Control(form, ControlKind::kListBox, name), selection_(selection) {}
 
 void ListBox::Add(std::wstring_view text, std::int32_t data) {
@@ -126,7 +125,7 @@ void ListBox::SelectionChanged(const std::vector<bool>& selected) {
   }
 }
 
-Timer::Timer(Form& form, std::wstring_view name) : Control(form, ControlKind::kTimer, name) {}
+Timer::Timer(Form& form, Literal name) : Control(form, ControlKind::kTimer, name) {}
 
 void Timer::SetInterval(int milliseconds) {
   interval_ = milliseconds;

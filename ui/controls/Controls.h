@@ -9,7 +9,7 @@ namespace ui {
 
 class Label : public Control {
  public:
-  Label(Form& form, std::wstring_view name, std::wstring_view caption = {});
+  Label(Form& form, common::Literal name, common::Literal caption = {});
 };
 
 /// The heading of the list that follows it: every word of its caption stands over a column of the
@@ -17,7 +17,7 @@ class Label : public Control {
 class ListHeading : public Control {
  public:
   /// `columns` says where the list's columns begin, in characters.
-  ListHeading(Form& form, std::wstring_view name, std::wstring_view caption,
+  ListHeading(Form& form, common::Literal name, std::wstring_view caption,
               std::vector<int> columns);
 
   const std::vector<int>& Columns() const { return columns_; }
@@ -28,12 +28,12 @@ class ListHeading : public Control {
 
 class Frame : public Control {
  public:
-  Frame(Form& form, std::wstring_view name, std::wstring_view caption);
+  Frame(Form& form, common::Literal name, common::Literal caption);
 };
 
 class StatusBar : public Control {
  public:
-  StatusBar(Form& form, std::wstring_view name);
+  StatusBar(Form& form, common::Literal name);
 };
 
 /// Background colours: a plain BGR value, or a system colour with the high bit set.
@@ -42,7 +42,7 @@ inline constexpr std::uint32_t kWindowBackground = 0x80000005;
 
 class TextBox : public Control {
  public:
-  TextBox(Form& form, std::wstring_view name);
+  TextBox(Form& form, common::Literal name);
 
   /// Sets the text, unselects, and raises Change, also when the text is the same.
   void SetText(std::wstring_view text) override;
@@ -81,7 +81,7 @@ class TextBox : public Control {
 
 class CheckBox : public Control {
  public:
-  CheckBox(Form& form, std::wstring_view name, std::wstring_view caption);
+  CheckBox(Form& form, common::Literal name, common::Literal caption);
 
   bool Value() const { return value_; }
   /// Raises Click when the value changes.
@@ -98,7 +98,7 @@ class CheckBox : public Control {
 
 class Button : public Control {
  public:
-  Button(Form& form, std::wstring_view name, std::wstring_view caption);
+  Button(Form& form, common::Literal name, common::Literal caption);
 
   std::function<void()> onClick;
 
@@ -116,7 +116,7 @@ class ListBox : public Control {
     bool selected = false;
   };
 
-  ListBox(Form& form, std::wstring_view name, Selection selection);
+  ListBox(Form& form, common::Literal name, Selection selection);
 
   Selection selection() const { return selection_; }
   const std::vector<Item>& Items() const { return items_; }
@@ -138,7 +138,7 @@ class ListBox : public Control {
 
 class Timer : public Control {
  public:
-  Timer(Form& form, std::wstring_view name);
+  Timer(Form& form, common::Literal name);
 
   /// Milliseconds between ticks; 0 is stopped.
   int Interval() const { return interval_; }

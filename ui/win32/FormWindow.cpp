@@ -35,7 +35,7 @@ void FormWindow::Bind(Control& control) {
                           ? handle()
                           : GetDlgItem(handle(), ControlId(control.name()));
   if (native == nullptr) {
-    throw common::RunTimeError(form_->name() + L" has no " + control.name());
+    throw common::RunTimeError(form_->name() + L" has no " + std::wstring(control.name()));
   }
   auto& bound = controls_[&control] = NativeControl::Make(control, native, shell_);
   bound->PushAll();

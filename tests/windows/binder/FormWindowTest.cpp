@@ -36,8 +36,8 @@ class ButtonUps {
 class FormWindowOnScreen : public BinderBench {
  protected:
   void LogFocus(Control& control) {
-    control.onGotFocus = [&, this] { Log(L"got " + control.name()); };
-    control.onLostFocus = [&, this] { Log(L"lost " + control.name()); };
+    control.onGotFocus = [&, this] { Log(L"got " + std::wstring(control.name())); };
+    control.onLostFocus = [&, this] { Log(L"lost " + std::wstring(control.name())); };
   }
 };
 

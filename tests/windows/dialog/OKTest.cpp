@@ -87,7 +87,7 @@ Lines Sight(const DialogStage& stage) {
       continue;
     }
     const HWND item = stage.Item(control->name());
-    lines.push_back(control->name() + L" " + driver::TextOf(item) + L" " +
+    lines.push_back(std::wstring(control->name()) + L" " + driver::TextOf(item) + L" " +
                     std::to_wstring(SendMessageW(item, BM_GETCHECK, 0, 0)) + L" " +
                     std::to_wstring(IsWindowEnabled(item)));
   }
