@@ -2,17 +2,15 @@
 
 #include <charconv>
 #include <cmath>
-#include <cstdio>
-#include <cstdlib>
 #include <limits>
 
+#include "common/Decimals.h"
 #include "common/RunTimeError.h"
 #include "common/Text.h"
 
 namespace common {
 namespace {
 
-constexpr int kSignificantDigits = 15;
 constexpr std::wstring_view kPoint = L".";
 
 // Half to even whatever the thread's rounding mode is.
@@ -34,16 +32,28 @@ Whole ToWhole(double number) {
   return static_cast<Whole>(rounded);
 }
 
-// `digits` with "." as point, nothing else; the longest run that is a number has been cut already.
-double FromDigits(std::wstring_view digits) {
-  std::string narrow;
-  for (const wchar_t c : digits) narrow += static_cast<char>(c);
-  // The C library's, which the program never takes out of its own locale; those of <charconv> bring
-  // two hundred kilobytes of tables with them.
-  const double number = std::strtod(narrow.c_str(), nullptr);
-  if (std::isinf(number)) throw OverflowError();
-  return number;
-}
+/// Digits as they are read, with a point somewhere between them or none.
+class DigitsRead {
+ public:
+  void Digit(wchar_t digit) {
+    digits_ += static_cast<char>(digit);
+    if (anyPoint_) ++decimals_;
+  }
+  void Point() { anyPoint_ = true; }
+
+  bool anyDigit() const { return !digits_.empty(); }
+  bool anyPoint() const { return anyPoint_; }
+  double Number() const {
+    const double number = FromDecimals(digits_, decimals_);
+    if (std::isinf(number)) throw OverflowError();
+    return number;
+  }
+
+ private:
+  std::string digits_;
+  std::size_t decimals_ = 0;
+  bool anyPoint_ = false;
+};
 
 }  // namespace
 
@@ -61,43 +71,26 @@ double ToDouble(std::wstring_view text, std::wstring_view decimal) {
   const bool negative = !rest.empty() && rest.front() == L'-';
   if (!rest.empty() && (negative || rest.front() == L'+')) rest.erase(0, 1);
 
-  std::wstring digits;
-  bool anyDigit = false;
-  bool anyPoint = false;
+  DigitsRead digits;
   for (std::size_t at = 0; at < rest.size();) {
     if (IsDigit(rest[at])) {
-      digits += rest[at++];
-      anyDigit = true;
-    } else if (!anyPoint && !decimal.empty() && rest.compare(at, decimal.size(), decimal) == 0) {
-      digits += L'.';
+      digits.Digit(rest[at++]);
+    } else if (!digits.anyPoint() && !decimal.empty() &&
+               rest.compare(at, decimal.size(), decimal) == 0) {
+      digits.Point();
       at += decimal.size();
-      anyPoint = true;
     } else {
       throw mismatch();
     }
   }
-  if (!anyDigit) throw mismatch();
-  const double number = FromDigits(digits);
-  return negative ? -number : number;
+  if (!digits.anyDigit()) throw mismatch();
+  return negative ? -digits.Number() : digits.Number();
 }
 
 std::wstring NumberText(double number, std::wstring_view decimal) {
   if (!std::isfinite(number)) throw OverflowError();
-  // Scientific form fixes the count of significant digits; the point is then set by hand.
-  char buffer[64];
-  const int length =
-      std::snprintf(buffer, sizeof buffer, "%.*e", kSignificantDigits - 1, std::abs(number));
-  const std::string_view form(buffer, static_cast<std::size_t>(length));
-  const std::size_t mark = form.find('e');
-  std::string digits(1, form.front());
-  digits += form.substr(2, mark - 2);
-  int exponent = 0;
-  const char* first = form.data() + mark + (form[mark + 1] == '+' ? 2 : 1);
-  std::from_chars(first, form.data() + form.size(), exponent);
-
-  digits.erase(digits.find_last_not_of('0') + 1);
+  const auto [digits, whole] = DecimalsOf(std::abs(number));
   if (digits.empty()) return L"0";
-  const int whole = exponent + 1;  // digits before the point
   std::string before = "0";
   std::string after;
   if (whole <= 0) {
@@ -123,16 +116,17 @@ std::wstring NumberText(std::int32_t number) {
 }
 
 double HostNumber(std::wstring_view text) {
-  std::size_t length = 0;
-  bool anyPoint = false;
-  for (; length < text.size(); ++length) {
-    if (text[length] == L'.' && !anyPoint) {
-      anyPoint = true;
-    } else if (!IsDigit(text[length])) {
+  DigitsRead digits;
+  for (const wchar_t character : text) {
+    if (IsDigit(character)) {
+      digits.Digit(character);
+    } else if (character == L'.' && !digits.anyPoint()) {
+      digits.Point();
+    } else {
       break;
     }
   }
-  return FromDigits(text.substr(0, length));
+  return digits.Number();
 }
 
 std::wstring HostNumberText(double number) { return NumberText(number, kPoint); }

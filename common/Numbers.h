@@ -21,7 +21,7 @@ std::wstring NumberText(double number, std::wstring_view decimal);
 std::wstring NumberText(std::int32_t number);
 
 /// The host's number reading, the same in every locale: digits and "." from the first character
-/// on; any other character or a second "." ends it; nothing read gives 0.
+/// on; any other character or a second "." ends it; nothing read gives 0. Too much: OverflowError.
 double HostNumber(std::wstring_view text);
 /// The host's form of a number: "." as decimal point whatever the locale.
 std::wstring HostNumberText(double number);

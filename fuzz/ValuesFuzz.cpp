@@ -1,5 +1,8 @@
+#include <cstdlib>
+
 #include "common/Numbers.h"
 #include "common/RunTimeError.h"
+#include "common/Text.h"
 #include "fuzz/Input.h"
 #include "hostlib/Object.h"
 
@@ -31,7 +34,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   ConvertOrFail([&] {
     const double number = common::ToDouble(text, L".");
     const std::wstring written = common::HostNumberText(number);
-    common::ToDouble(written, L".");
+    const double again = common::ToDouble(written, L".");
+    fuzz::Require(common::HostNumberText(again) == written, "a written number is read again");
+    fuzz::Require(again == std::strtod(common::ToUtf8(written).c_str(), nullptr),
+                  "digits are read as the C library reads them");
     common::ToInteger(number);
   });
   return 0;
