@@ -56,8 +56,8 @@ bool HoldsPayment(std::wstring_view controlName) { return controlName == kPaymen
 
 void PaymentWatch::Before(const hostlib::CallInfo& call) {
   if (Is(call.operation, operations::pnr_element_builder::kExecuteFP)) Declare(elementText_);
-  if (!Is(call.operation, operations::parameter_bag::kSetValue) || call.arguments.size() != 2)
-    return;
+  const bool sets = Is(call.operation, operations::parameter_bag::kSetValue);
+  if (!sets || call.arguments.size() != 2) return;
   const std::wstring_view key = KeyOf(call);
   if (key == kElementTextKey) elementText_ = call.arguments[1];
   if (IsPaymentKey(key)) Declare(call.arguments[1]);

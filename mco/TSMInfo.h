@@ -31,7 +31,7 @@ class TSMInfo {
   double dblMCOFee = 0;  ///< of the TSM last displayed
   std::int16_t intNoTSM = 0;
   bool blnTSMFound = false;              ///< the last display showed one TSM, not a list
-  bool blnMCOFeeFound = false;           ///< the last display held an MCO fee
+  bool blnMCOFeeFound = false;           ///< the last display held an MCO fee; for the record
   std::wstring strErrResponse;           ///< the host's error response to the last display
   std::int16_t intSelectedMCO = 0;       ///< TSM number (M) of the chosen MCO
   std::int16_t intSelectedMCOIndex = 0;  ///< 0-based, among the PNR's MCO segments

@@ -31,7 +31,7 @@ std::wstring NameOf(const Label& label) {
   return common::Replace(common::Replace(label.Text(), L"&", L""), L":", L"");
 }
 
-/// Every field has its help by then: what it does as the focus comes goes on.
+/// What shows the help as the focus comes is bound by then, and goes on.
 void BindTyping(const TypingRule& rule, Desktop& desktop) {
   rule.field.onKeyPress = [&desktop, rule](wchar_t& character) {
     if (rule.upperCases) character = common::UpperCase(character);

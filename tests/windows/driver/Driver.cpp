@@ -190,7 +190,8 @@ bool NobodyHasTheForeground() {
 }
 
 /// Without a window manager the display can lose the focus altogether when one window goes while
-/// the next one comes. A person would click on the window then.
+/// the next one comes. A person would click on the window then. When another window keeps it, the
+/// caller goes on after the usual wait, and fails by what does not happen.
 void WaitForForeground(HWND window) {
   constexpr auto kPatience = std::chrono::seconds(1);
   const auto isThere = [&] { return GetForegroundWindow() == window; };

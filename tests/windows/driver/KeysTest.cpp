@@ -23,6 +23,8 @@ class Hook {
 
 /// Whether this thread has got Ctrl.
 std::atomic<bool> hasCtrl = false;
+/// Whether the key beside it was seen on its way.
+std::atomic<bool> sawKey = false;
 /// Whether it had it before the key beside it was sent, however long that took.
 std::atomic<bool> hadCtrlAlone = false;
 
@@ -38,6 +40,7 @@ LRESULT CALLBACK SeeGot(int code, WPARAM removed, LPARAM further) {
 LRESULT CALLBACK DelaySent(int code, WPARAM message, LPARAM further) {
   const auto& key = *reinterpret_cast<const KBDLLHOOKSTRUCT*>(further);
   if (code >= 0 && message == WM_KEYDOWN && key.vkCode == 'A') {
+    sawKey = true;
     hadCtrlAlone = Holds([] { return hasCtrl.load(); }, std::chrono::milliseconds(200));
   }
   return CallNextHookEx(nullptr, code, message, further);
@@ -60,6 +63,7 @@ TEST(AKeyWithAModifier, IsThereAsSoonAsTheModifierIs) {
     WaitUntil(L"the keys have come", [] { return hasCtrl.load(); });
   });
   DestroyWindow(field);
+  EXPECT_TRUE(sawKey);
   EXPECT_FALSE(hadCtrlAlone);
 }
 

@@ -9,7 +9,8 @@ namespace driver {
 /// A process, ended with its owner if it has not ended by then.
 class Process {
  public:
-  /// Starts a program in its own folder. Throws DriverError.
+  /// Starts a program in its own folder. What a busy machine refuses for a moment is tried again,
+  /// for as long as a wait lasts, and each try is printed. Throws DriverError.
   explicit Process(const std::wstring& program, const std::wstring& argument = L"");
   /// The process that has the window. Throws DriverError when it has ended.
   explicit Process(HWND window);

@@ -3,6 +3,7 @@
 #include <functional>
 #include <iostream>
 #include <sstream>
+#include <utility>
 
 #include "tests/windows/driver/Driver.h"
 #include "tests/windows/driver/Process.h"
