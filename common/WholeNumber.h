@@ -10,7 +10,7 @@ class WholeNumber {
  public:
   explicit WholeNumber(std::uint64_t number = 0);
 
-  /// Neither takes 0 for its first number.
+  /// Neither `factor` nor `divisor` is 0.
   void MultiplyAdd(std::uint32_t factor, std::uint32_t addend);
   /// Leaves the quotient and gives the rest.
   std::uint32_t DivideBy(std::uint32_t divisor);
