@@ -39,7 +39,6 @@ frmPTA::frmPTA(Desktop& desktop, errors::ErrorHandler& errors, common::RunEnd& r
   txtMCOFee.SetLocked(true);
   EnableOPText(false);
   EnableBODDetails(false);
-  BindHelp();
   BindTextBoxes();
   BindCheckBoxes();
   BindButtons();

@@ -92,6 +92,9 @@ class frmPTA : public Form {
   void LockDocumentFields();
 
   void OnCloseBox() override;
+  void OnLostFocus(Control& control) override;
+  void OnGotFocus(Control& control) override;
+  void OnKeyDown(Control& control, int key) override;
 
  protected:
   void OnLoad() override;
@@ -105,7 +108,6 @@ class frmPTA : public Form {
     std::size_t completeLength;
   };
 
-  void BindHelp();
   void BindTextBoxes();
   void BindCheckBoxes();
   void BindButtons();
@@ -114,8 +116,6 @@ class frmPTA : public Form {
   void OfficeIDChanged();
   void OKClicked();
   void Cancel();
-  void ShowStatus(const Control& control);
-  void ShowF1(Control& control);
   /// Empty when every field is complete.
   std::wstring IncompleteFields() const;
 

@@ -31,7 +31,6 @@ std::wstring NameOf(const Label& label) {
   return common::Replace(common::Replace(label.Text(), L"&", L""), L":", L"");
 }
 
-/// What shows the help as the focus comes is bound by then, and goes on.
 void BindTyping(const TypingRule& rule, Desktop& desktop) {
   rule.field.onKeyPress = [&desktop, rule](wchar_t& character) {
     if (rule.upperCases) character = common::UpperCase(character);
@@ -43,31 +42,21 @@ void BindTyping(const TypingRule& rule, Desktop& desktop) {
     rule.field.onPaste = [](std::wstring_view text) { return common::UpperCase(text); };
   }
   if (rule.selectsAll) {
-    rule.field.onGotFocus = [&field = rule.field, status = rule.field.onGotFocus] {
-      field.SelectAll();
-      status();
-    };
+    rule.field.onGotFocus = [&field = rule.field] { field.SelectAll(); };
   }
 }
 
 }  // namespace
 
-void frmPTA::BindHelp() {
-  for (Control* control : controls()) {
-    control->onGotFocus = [this, control] { ShowStatus(*control); };
-    control->onLostFocus = [this] { staStatusText.SetText(L""); };
-    control->onKeyDown = [this, control](int key) {
-      if (key == kF1) ShowF1(*control);
-    };
-  }
-}
+void frmPTA::OnLostFocus(Control&) { staStatusText.SetText(L""); }
 
-void frmPTA::ShowStatus(const Control& control) {
+void frmPTA::OnGotFocus(Control& control) {
   const HelpDefinition* help = FindHelp(control.name());
   staStatusText.SetText(help == nullptr ? IncompleteFields() : std::wstring(help->status));
 }
 
-void frmPTA::ShowF1(Control& control) {
+void frmPTA::OnKeyDown(Control& control, int key) {
+  if (key != kF1) return;
   const HelpDefinition* help = FindHelp(control.name());
   if (help == nullptr || help->f1.empty()) return;
   desktop_.ShowBox(help->f1, common::kPlain, common::kTitle);

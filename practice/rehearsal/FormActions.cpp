@@ -112,7 +112,7 @@ void FormActions::Paste(ui::TextBox& field, const std::wstring& text) {
 void FormActions::PressKey(ui::Control& control, const std::wstring& key) {
   if (key != L"F1") Fail(control, L"knows no key " + key);
   Focus(control);
-  if (control.onKeyDown) control.onKeyDown(kF1);
+  control.form().OnKeyDown(control, kF1);
 }
 
 void FormActions::Click(ui::Control& control) {

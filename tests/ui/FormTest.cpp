@@ -9,15 +9,13 @@ using Events = std::vector<std::wstring>;
 
 /// Two fields and a button that write down their focus, and what happens to the form itself.
 struct WatchedForm : Form {
-  WatchedForm() : Form(L"WatchedForm") {
-    for (Control* control : controls()) {
-      control->onGotFocus = [this, control] {
-        events.push_back(L"got " + std::wstring(control->name()));
-      };
-      control->onLostFocus = [this, control] {
-        events.push_back(L"lost " + std::wstring(control->name()));
-      };
-    }
+  WatchedForm() : Form(L"WatchedForm") {}
+  void OnGotFocus(Control& control) override {
+    events.push_back(L"got " + std::wstring(control.name()));
+  }
+  void OnLostFocus(Control& control) override {
+    events.push_back(L"lost " + std::wstring(control.name()));
+    if (whenLost) std::exchange(whenLost, nullptr)();
   }
   void OnLoad() override {
     events.push_back(L"load");
@@ -30,6 +28,7 @@ struct WatchedForm : Form {
   TextBox second{*this, L"second"};
   Button third{*this, L"third", L"Third"};
   std::function<void()> inLoad;
+  std::function<void()> whenLost;  ///< done once
   Events events;
 };
 
@@ -123,6 +122,21 @@ TEST(Form, TheFocusIsLostBeforeItIsGot) {
   EXPECT_EQ(bench.form.ActiveControl(), &bench.form.second);
 }
 
+TEST(Form, TheControlsOwnHandlerComesBeforeTheForms) {
+  ShownBench bench;
+  bench.form.first.onGotFocus = [&] { bench.form.events.push_back(L"first has it"); };
+  bench.form.first.SetFocus();
+  EXPECT_EQ(bench.form.TakeEvents(), (Events{L"first has it", L"got first"}));
+}
+
+TEST(Form, AControlThatPassesTheFocusOnIsNotTheFormsAnyMore) {
+  ShownBench bench;
+  bench.form.first.onGotFocus = [&] { bench.form.second.SetFocus(); };
+  bench.form.first.SetFocus();
+  EXPECT_EQ(bench.form.TakeEvents(), (Events{L"lost first", L"got second"}));
+  EXPECT_EQ(bench.form.ActiveControl(), &bench.form.second);
+}
+
 TEST(Form, TheFocusOnTheSameControlAgainRaisesNothing) {
   ShownBench bench;
   bench.form.first.SetFocus();
@@ -135,7 +149,7 @@ TEST(Form, WhileTheFocusIsLostTheNextControlIsTheActiveOneAlready) {
   ShownBench bench;
   bench.form.first.SetFocus();
   const Control* active = nullptr;
-  bench.form.first.onLostFocus = [&] { active = bench.form.ActiveControl(); };
+  bench.form.whenLost = [&] { active = bench.form.ActiveControl(); };
   bench.form.second.SetFocus();
   EXPECT_EQ(active, &bench.form.second);
 }
@@ -144,9 +158,9 @@ TEST(Form, ALostFocusThatMovesTheFocusOnSkipsTheControlBetween) {
   ShownBench bench;
   bench.form.first.SetFocus();
   bench.form.TakeEvents();
-  bench.form.first.onLostFocus = [&] { bench.form.third.SetFocus(); };
+  bench.form.whenLost = [&] { bench.form.third.SetFocus(); };
   bench.form.second.SetFocus();
-  EXPECT_EQ(bench.form.TakeEvents(), (Events{L"lost second", L"got third"}));
+  EXPECT_EQ(bench.form.TakeEvents(), (Events{L"lost first", L"lost second", L"got third"}));
   EXPECT_EQ(bench.form.ActiveControl(), &bench.form.third);
 }
 
@@ -154,13 +168,13 @@ TEST(Form, ALostFocusThatMovesTheFocusAwayAndBackGivesItOnce) {
   ShownBench bench;
   bench.form.first.SetFocus();
   bench.form.TakeEvents();
-  bench.form.first.onLostFocus = [&] {
+  bench.form.whenLost = [&] {
     bench.form.third.SetFocus();
     bench.form.second.SetFocus();
   };
   bench.form.second.SetFocus();
   EXPECT_EQ(bench.form.TakeEvents(),
-            (Events{L"lost second", L"got third", L"lost third", L"got second"}));
+            (Events{L"lost first", L"lost second", L"got third", L"lost third", L"got second"}));
   EXPECT_EQ(bench.form.ActiveControl(), &bench.form.second);
 }
 
@@ -188,9 +202,9 @@ TEST(Form, UnloadingWhileTheFocusIsLostGivesItToNobody) {
   ShownBench bench;
   bench.form.first.SetFocus();
   bench.form.TakeEvents();
-  bench.form.first.onLostFocus = [&] { bench.form.Unload(); };
+  bench.form.whenLost = [&] { bench.form.Unload(); };
   bench.form.second.SetFocus();
-  EXPECT_EQ(bench.form.TakeEvents(), Events{L"unload"});
+  EXPECT_EQ(bench.form.TakeEvents(), (Events{L"lost first", L"unload"}));
   EXPECT_EQ(bench.form.ActiveControl(), nullptr);
 }
 

@@ -129,8 +129,7 @@ TEST(Help, LosingTheFocusClearsTheStatusText) {
 TEST(Help, F1ShowsTheExactTextInAPlainBoxOrNothingAtAll) {
   HelpBench bench;
   for (const Help& help : kHelp) {
-    Control* control = bench.form.Find(help.control);
-    if (control->onKeyDown) control->onKeyDown(kF1);
+    bench.form.OnKeyDown(*bench.form.Find(help.control), kF1);
     EXPECT_EQ(bench.TakeLog(), help.f1.empty() ? Lines{} : Lines{PlainBox(help.f1)})
         << common::ToUtf8(help.control);
   }
@@ -139,7 +138,7 @@ TEST(Help, F1ShowsTheExactTextInAPlainBoxOrNothingAtAll) {
 TEST(Help, F1ShowsNothingOnAFieldWithoutHelp) {
   HelpBench bench;
   for (const std::wstring_view name : kWithoutHelp) {
-    bench.form.Find(name)->onKeyDown(kF1);
+    bench.form.OnKeyDown(*bench.form.Find(name), kF1);
     EXPECT_EQ(bench.TakeLog(), Lines{}) << common::ToUtf8(name);
   }
 }
@@ -148,7 +147,7 @@ TEST(Help, F1GivesTheFocusBack) {
   HelpBench bench;
   bench.form.txtPWCT.SetFocus();
   bench.desktop.inBox = [&] { bench.form.FocusMovedTo(nullptr); };
-  bench.form.txtPWCT.onKeyDown(kF1);
+  bench.form.OnKeyDown(bench.form.txtPWCT, kF1);
   EXPECT_TRUE(bench.form.txtPWCT.HasFocus());
   EXPECT_EQ(bench.form.staStatusText.Text(),
             L"Enter PWCT Remark, Eg. SK  AT ARN A/P BEFORE DEPARTURE");
@@ -157,9 +156,8 @@ TEST(Help, F1GivesTheFocusBack) {
 TEST(Help, NoOtherKeyShowsABox) {
   HelpBench bench;
   for (Control* control : bench.form.controls()) {
-    if (!control->onKeyDown) continue;
     for (int key = 0; key < 256; ++key) {
-      if (key != kF1) control->onKeyDown(key);
+      if (key != kF1) bench.form.OnKeyDown(*control, key);
     }
   }
   EXPECT_EQ(bench.TakeLog(), Lines{});
@@ -221,9 +219,7 @@ TEST(Help, AChangeOfAFieldWithoutTheFocusLeavesTheStatusTextAlone) {
 
 TEST(Help, F2IsNotBound) {
   HelpBench bench;
-  for (Control* control : bench.form.controls()) {
-    if (control->onKeyDown) control->onKeyDown(kF2);
-  }
+  for (Control* control : bench.form.controls()) bench.form.OnKeyDown(*control, kF2);
   EXPECT_EQ(bench.TakeLog(), Lines{});
   EXPECT_EQ(bench.actions.calls, Lines{L"load"});
 }

@@ -60,11 +60,8 @@ class Control {
   void SetFocus();
   bool HasFocus() const;
 
-  // Raised by the form, in this order, when the focus moves.
-  std::function<void()> onLostFocus;
+  /// The focus comes here; the form's own OnGotFocus follows.
   std::function<void()> onGotFocus;
-  /// A key goes down; virtual-key code (112 is F1).
-  std::function<void(int)> onKeyDown;
 
  protected:
   void PropertySet(Property property);

@@ -62,10 +62,12 @@ void Form::FocusMovedTo(Control* control) {
   Control* const left = active_;
   active_ = control;
   const unsigned move = ++focusMoves_;
-  if (left != nullptr && left->onLostFocus) left->onLostFocus();
+  if (left != nullptr) OnLostFocus(*left);
   // Without a further move the active control may still be another: unloading leaves none.
-  const bool stands = move == focusMoves_ && active_ == control;
-  if (stands && control != nullptr && control->onGotFocus) control->onGotFocus();
+  const auto stands = [&] { return move == focusMoves_ && active_ == control; };
+  if (control == nullptr || !stands()) return;
+  if (control->onGotFocus) control->onGotFocus();
+  if (stands()) OnGotFocus(*control);
 }
 
 void Form::AskFocus(Control& control) {

@@ -63,6 +63,11 @@ class Form {
 
   /// The user closes the window by its close box, its menu or Esc.
   virtual void OnCloseBox() {}
+  // The focus leaves a control, then comes to one. What differs from control to control is its own.
+  virtual void OnLostFocus(Control& /*control*/) {}
+  virtual void OnGotFocus(Control& /*control*/) {}
+  /// A key goes down on the control; virtual-key code (112 is F1).
+  virtual void OnKeyDown(Control& /*control*/, int /*key*/) {}
 
   // For the desktop.
 
@@ -72,8 +77,8 @@ class Form {
   void Shown(FormView& view);
   void Detach() { view_ = nullptr; }
   FormView* view() const { return view_; }
-  /// Raises LostFocus, then GotFocus unless the first handler moved the focus on, be it to the same
-  /// control in the end.
+  /// Raises LostFocus, then GotFocus unless the first moved the focus on, be it to the same control
+  /// in the end.
   void FocusMovedTo(Control* control);
 
  protected:

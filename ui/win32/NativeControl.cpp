@@ -79,7 +79,7 @@ LRESULT NativeControl::Default(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 LRESULT NativeControl::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
-  if (message == WM_KEYDOWN && control_.onKeyDown) control_.onKeyDown(static_cast<int>(wParam));
+  if (message == WM_KEYDOWN) control_.form().OnKeyDown(control_, static_cast<int>(wParam));
   if (window_ == nullptr) return 0;  // the handler has let the form go
   const LRESULT result = Default(message, wParam, lParam);
   if (message == WM_SETFOCUS && window_ != nullptr && control_.form().IsVisible()) {

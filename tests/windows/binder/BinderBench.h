@@ -31,6 +31,19 @@ class frmTest : public Form {
 
   int closeAsked = 0;
   void OnCloseBox() override { ++closeAsked; }
+
+  std::function<void(const Control&)> whenLost;
+  std::function<void(const Control&)> whenGot;
+  std::function<void(const Control&, int)> whenKeyDown;
+  void OnLostFocus(Control& control) override {
+    if (whenLost) whenLost(control);
+  }
+  void OnGotFocus(Control& control) override {
+    if (whenGot) whenGot(control);
+  }
+  void OnKeyDown(Control& control, int key) override {
+    if (whenKeyDown) whenKeyDown(control, key);
+  }
 };
 
 /// Has a default button, and closes by it and by its close box.
@@ -69,9 +82,9 @@ class BinderBench : public testing::Test {
   void WaitForTheEnd() { person_.WaitForTheEnd(); }
   HWND Item(HWND window, int id) { return driver::Item(window, id); }
 
-  void Log(std::wstring line) {
+  void Log(std::wstring_view line) {
     const std::lock_guard lock(mutex_);
-    log_.push_back(std::move(line));
+    log_.emplace_back(line);
   }
   std::vector<std::wstring> log() {
     const std::lock_guard lock(mutex_);

@@ -35,9 +35,9 @@ class ButtonUps {
 
 class FormWindowOnScreen : public BinderBench {
  protected:
-  void LogFocus(Control& control) {
-    control.onGotFocus = [&, this] { Log(L"got " + std::wstring(control.name())); };
-    control.onLostFocus = [&, this] { Log(L"lost " + std::wstring(control.name())); };
+  void LogFocus() {
+    form.whenGot = [this](const Control& c) { Log(L"got " + std::wstring(c.name())); };
+    form.whenLost = [this](const Control& c) { Log(L"lost " + std::wstring(c.name())); };
   }
 };
 
@@ -56,7 +56,7 @@ TEST_F(FormWindowOnScreen, ShowsCaptionsAndStatesOfTheForm) {
 }
 
 TEST_F(FormWindowOnScreen, FocusGoesInTheFormsOrderLostBeforeGot) {
-  for (Control* control : form.controls()) LogFocus(*control);
+  LogFocus();
   Run([&](HWND window) {
     int from = ID_txtPWCT;
     for (const int to : {ID_txtPTA, ID_chkOP, ID_lstTST, ID_cmdOK, ID_cmdCancel, ID_txtPWCT}) {
@@ -71,10 +71,9 @@ TEST_F(FormWindowOnScreen, FocusGoesInTheFormsOrderLostBeforeGot) {
 }
 
 TEST_F(FormWindowOnScreen, AFocusThatLostFocusMovesOnStaysThere) {
-  for (Control* control : form.controls()) LogFocus(*control);
-  form.txtPWCT.onLostFocus = [&] {
-    Log(L"lost txtPWCT");
-    form.cmdCancel.SetFocus();
+  LogFocus();
+  form.whenLost = [&](const Control& left) {
+    if (&left == &form.txtPWCT) form.cmdCancel.SetFocus();
   };
   Run([&](HWND window) {
     driver::Press(Item(window, ID_txtPWCT), VK_TAB);
@@ -193,7 +192,7 @@ TEST_F(FormWindowOnScreen, WhileTheGateIsShutNothingReachesTheForm) {
   form.chkOP.onClick = [&] { Log(L"check"); };
   form.txtPWCT.onChange = [&] { Log(L"change"); };
   form.txtPWCT.onKeyPress = [&](wchar_t&) { Log(L"key"); };
-  form.txtPWCT.onKeyDown = [&](int) { Log(L"down"); };
+  form.whenKeyDown = [&](const Control&, int) { Log(L"down"); };
   form.cmdOK.onClick = [&] { Log(L"click"); };
   const ButtonUps ups;
   Run([&](HWND window) {

@@ -35,9 +35,9 @@ TEST_F(TextBoxWindow, TypingRaisesOneChangeForEachCharacterWithTheNewText) {
 }
 
 TEST_F(TextBoxWindow, WhatTheProgramSetsIsShownAndComesBackAsNoSecondChange) {
-  form.txtPTA.onChange = [&] { Log(L"PTA=" + form.txtPTA.Text()); };
+  form.txtPTA.onChange = [&] { Log(L"PTA=" + std::wstring(form.txtPTA.Text())); };
   form.txtPWCT.onChange = [&] {
-    Log(L"PWCT=" + form.txtPWCT.Text());
+    Log(L"PWCT=" + std::wstring(form.txtPWCT.Text()));
     form.txtPTA.SetText(L"80");
   };
   Run([&](HWND window) {
@@ -170,9 +170,10 @@ TEST_F(TextBoxWindow, TheTextOfAYellowFieldIsBlackForAUserWithWhiteTextsToo) {
   });
 }
 
-TEST_F(TextBoxWindow, F1ReachesTheKeyDownHandlerOfTheFocusedControl) {
-  form.txtPWCT.onKeyDown = [&](int key) { Log(std::to_wstring(key)); };
-  form.chkOP.onKeyDown = [&](int key) { Log(L"check " + std::to_wstring(key)); };
+TEST_F(TextBoxWindow, F1ReachesTheFormFromTheControlWithTheFocus) {
+  form.whenKeyDown = [&](const Control& control, int key) {
+    if (key != VK_TAB) Log(std::wstring(control.name()) + L" " + std::to_wstring(key));
+  };
   Run([&](HWND window) {
     driver::Press(Item(window, ID_txtPWCT), VK_F1);
     driver::Press(Item(window, ID_txtPWCT), VK_TAB);
@@ -180,7 +181,7 @@ TEST_F(TextBoxWindow, F1ReachesTheKeyDownHandlerOfTheFocusedControl) {
     driver::Press(Item(window, ID_chkOP), VK_F1);
     WaitUntil(L"both keys are through", [&] { return log().size() >= 2; });
   });
-  EXPECT_EQ(log(), (std::vector<std::wstring>{L"112", L"check 112"}));
+  EXPECT_EQ(log(), (std::vector<std::wstring>{L"txtPWCT 112", L"chkOP 112"}));
 }
 
 }  // namespace
