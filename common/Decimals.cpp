@@ -53,6 +53,13 @@ std::string DigitsOf(WholeNumber number) {
   return digits;
 }
 
+/// Of at most nine digits.
+std::uint32_t NumberOf(std::string_view step) {
+  std::uint32_t number = 0;
+  for (const char digit : step) number = number * 10 + static_cast<std::uint32_t>(digit - '0');
+  return number;
+}
+
 bool RoundsUp(std::string_view digits) {
   const char next = digits[kSignificantDigits];
   if (next != '5') return next > '5';
@@ -100,12 +107,13 @@ Decimals DecimalsOf(double number) {
 
 double FromDecimals(std::string_view digits, std::size_t decimals) {
   digits.remove_prefix(std::min(digits.find_first_not_of('0'), digits.size()));
-  if (digits.empty()) return 0;
+  // Most numbers are whole and short.
+  if (decimals == 0 && digits.size() <= kDigitsOfStep) return NumberOf(digits);
   if (digits.size() > decimals + std::numeric_limits<double>::max_exponent10 + 1) {
     return std::numeric_limits<double>::infinity();
   }
   // The same at the other end: smaller than any double. Longer numbers take more than their share.
-  if (decimals > digits.size() + kMostZerosBehindPoint) return 0;
+  if (digits.empty() || decimals > digits.size() + kMostZerosBehindPoint) return 0;
   bool anyRest = false;
   if (digits.size() > kDecidingDigits) {
     anyRest = digits.find_first_not_of('0', kDecidingDigits) != digits.npos;
@@ -116,9 +124,7 @@ double FromDecimals(std::string_view digits, std::size_t decimals) {
   WholeNumber number;
   for (std::size_t at = 0; at < digits.size(); at += kDigitsOfStep) {
     const std::string_view step = digits.substr(at, kDigitsOfStep);
-    std::uint32_t addend = 0;
-    for (const char digit : step) addend = addend * 10 + static_cast<std::uint32_t>(digit - '0');
-    number.MultiplyAdd(kPowersOfTen[step.size()], addend);
+    number.MultiplyAdd(kPowersOfTen[step.size()], NumberOf(step));
   }
   // So large that enough bits are left by the division.
   const int bits = kBitsToRound + kBitsOfDigit * static_cast<int>(decimals);

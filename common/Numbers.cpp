@@ -89,8 +89,12 @@ double ToDouble(std::wstring_view text, std::wstring_view decimal) {
 
 std::wstring NumberText(double number, std::wstring_view decimal) {
   if (!std::isfinite(number)) throw OverflowError();
+  // Most amounts are whole and need no search for their digits.
+  if (std::abs(number) <= std::numeric_limits<std::int32_t>::max() &&
+      std::trunc(number) == number) {
+    return NumberText(static_cast<std::int32_t>(number));
+  }
   const auto [digits, whole] = DecimalsOf(std::abs(number));
-  if (digits.empty()) return L"0";
   std::string before = "0";
   std::string after;
   if (whole <= 0) {

@@ -125,6 +125,13 @@ TEST_F(DrawnNumbers, AreReadAsTheCLibraryReadsThem) {
   }
 }
 
+TEST(Decimals, AWholeNumberIsReadExactlyWhateverItsLength) {
+  for (std::size_t length = 1; length <= 30; ++length) {
+    const std::string nines(length, '9');
+    EXPECT_EQ(FromDecimals(nines, 0), std::strtod(nines.c_str(), nullptr)) << nines;
+  }
+}
+
 TEST(Decimals, AnAmountIsReadAsTheNearestDouble) {
   EXPECT_EQ(FromDecimals("12345", 1), 1234.5);
   EXPECT_EQ(FromDecimals("0000705", 2), 7.05);
