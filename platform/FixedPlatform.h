@@ -30,9 +30,15 @@ class FixedPlatform : public Platform {
   std::chrono::year_month_day Today() const override { return today; }
 
   std::wstring ShortDateText(std::chrono::year_month_day date) const override {
-    wchar_t text[32];
-    std::swprintf(text, std::size(text), L"%04d-%02u-%02u", static_cast<int>(date.year()),
-                  static_cast<unsigned>(date.month()), static_cast<unsigned>(date.day()));
+    std::wstring text = L"YYYY-MM-DD";
+    const auto write = [&](std::size_t at, std::size_t digits, unsigned number) {
+      for (std::size_t i = at + digits; i > at; number /= 10) {
+        text[--i] = static_cast<wchar_t>(L'0' + number % 10);
+      }
+    };
+    write(0, 4, static_cast<unsigned>(static_cast<int>(date.year())));
+    write(5, 2, static_cast<unsigned>(date.month()));
+    write(8, 2, static_cast<unsigned>(date.day()));
     return text;
   }
   std::optional<std::chrono::year_month_day> ReadShortDate(std::wstring_view text) const override {
