@@ -1,8 +1,6 @@
 #include "tst/frmSelectTST.h"
 
 #include "common/ConstDefintions.h"
-#include "common/Text.h"
-#include "ui/controls/SelectionRow.h"
 
 namespace tst {
 namespace {
@@ -10,18 +8,10 @@ namespace {
 // Only the beginning of the segments says which belong together.
 constexpr int kSegmentsCompared = 6;
 
-std::wstring Heading() {
-  return L"TST" + common::Space(14) + L"P" + common::Space(16) + L"FOP" + common::Space(45) +
-         L"SEGMENTS" + common::Space(1);
-}
-
 }  // namespace
 
 frmSelectTST::frmSelectTST(common::MessageBoxes& boxes, common::RunEnd& runEnd)
-    : Form(L"frmSelectTST"),
-      lblSelectHeading(*this, L"lblSelectHeading", Heading(), ui::RowColumns()),
-      boxes_(boxes),
-      runEnd_(runEnd) {
+    : Form(L"frmSelectTST"), boxes_(boxes), runEnd_(runEnd) {
   SetCaption(std::wstring(common::kTitle) + L"- TST Record list");
   cmdOK.onClick = [this] { OnOK(); };
   cmdCancel.onClick = [this] { OnCloseBox(); };

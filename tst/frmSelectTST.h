@@ -6,6 +6,7 @@
 #include "common/EndOfRun.h"
 #include "common/MessageBoxes.h"
 #include "ui/controls/Form.h"
+#include "ui/controls/SelectionRow.h"
 
 namespace tst {
 
@@ -16,7 +17,10 @@ class frmSelectTST : public ui::Form {
   frmSelectTST(common::MessageBoxes& boxes, common::RunEnd& runEnd);
 
   ui::Label lblSelectTST{*this, L"lblSelectTST", L"Select one or many TST(s) "};
-  ui::ListHeading lblSelectHeading;
+  ui::ListHeading lblSelectHeading{*this, L"lblSelectHeading",
+                                   L"TST              P                FOP"
+                                   L"                                             SEGMENTS ",
+                                   ui::RowColumns()};
   ui::ListBox lstTST{*this, L"lstTST", ui::ListBox::Selection::kMultiple};
   ui::Button cmdOK{*this, L"cmdOK", L"OK"};
   ui::Button cmdCancel{*this, L"cmdCancel", L"Cancel"};

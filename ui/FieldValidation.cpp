@@ -8,7 +8,7 @@ namespace {
 constexpr std::wstring_view kInvalidTitle = L"Invalid Field !";
 
 // The length counts every character, blanks at the ends too; the pattern does not see those.
-bool IsOfficeID(const std::wstring& text) {
+bool IsOfficeID(std::wstring_view text) {
   return text.size() == kOfficeIDLength &&
          common::Like(common::Trim(text), L"[A-Z][A-Z][A-Z]??##??");
 }
@@ -26,7 +26,7 @@ bool FieldValidation::VerifyWindowFields() {
 }
 
 bool FieldValidation::Verify() {
-  const std::wstring& office = fields_.txtQueueingOfficeID.Text();
+  const std::wstring_view office = fields_.txtQueueingOfficeID.Text();
   struct Check {
     TextBox& field;
     bool passes;

@@ -25,7 +25,7 @@ int NumberIn(const ui::Control& control, const std::wstring& words) {
 
 // A key replaces the selection and leaves the caret behind it.
 void Insert(ui::TextBox& field, std::wstring_view typed) {
-  std::wstring text = field.Text();
+  std::wstring text(field.Text());
   const auto start = static_cast<std::size_t>(field.SelectionStart());
   text.replace(start, static_cast<std::size_t>(field.SelectionLength()), typed);
   field.TextTyped(text);
@@ -148,7 +148,7 @@ void FormActions::Tick(ui::Timer& timer, const std::wstring& times) {
 
 void FormActions::CheckText(const ui::Control& control, const std::wstring& text) const {
   if (control.Text() != text) {
-    Fail(control, L"shows \"" + control.Text() + L"\" instead of \"" + text + L"\"");
+    Fail(control, L"shows \"" + std::wstring(control.Text()) + L"\" instead of \"" + text + L"\"");
   }
 }
 
@@ -164,8 +164,8 @@ void FormActions::CheckState(const ui::Control& control, const std::wstring& sta
 std::vector<std::wstring> DescribeControls(const ui::Form& form) {
   std::vector<std::wstring> lines;
   for (const ui::Control* control : form.controls()) {
-    lines.push_back(L"  " + std::wstring(control->name()) + L" \"" + control->Text() + L"\"" +
-                    StateWords(*control));
+    lines.push_back(L"  " + std::wstring(control->name()) + L" \"" + std::wstring(control->Text()) +
+                    L"\"" + StateWords(*control));
     if (const auto* list = As<ui::ListBox>(*control)) {
       for (const ui::ListBox::Item& item : list->Items()) {
         lines.push_back(L"    " + std::wstring(item.selected ? L"*" : L" ") + item.text);

@@ -50,7 +50,7 @@ struct WaitBench : support::RoomBench, ui::WindowlessView {
   }
 
   void ControlSet(ui::Control& control, ui::Property property) override {
-    if (&control == &form.staStatusText) statusTexts.push_back(control.Text());
+    if (&control == &form.staStatusText) statusTexts.emplace_back(control.Text());
     if (property == ui::Property::kInterval) intervals.push_back(form.tmrWait.Interval());
   }
 

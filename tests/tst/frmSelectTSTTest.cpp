@@ -38,7 +38,7 @@ TEST(frmSelectTST, TheCaptionsAreExact) {
 
 TEST(frmSelectTST, TheHeadingHas91CharactersInItsColumns) {
   DialogBench bench;
-  const std::wstring& heading = bench.form.lblSelectHeading.Text();
+  const std::wstring_view heading = bench.form.lblSelectHeading.Text();
   EXPECT_EQ(heading.size(), 91U);
   EXPECT_EQ(common::InStr(heading, L"TST"), 1);
   EXPECT_EQ(common::InStr(heading, L"P"), 18);

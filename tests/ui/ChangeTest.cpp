@@ -128,7 +128,7 @@ struct OrderView : WindowlessView {
     const bool isText = property == Property::kText;
     if (control.name() == L"cmdOK") sets.push_back(control.Enabled() ? L"OK on" : L"OK off");
     if (control.name() == L"txtQueueCat") {
-      sets.push_back(isText ? L"queue text " + control.Text()
+      sets.push_back(isText ? L"queue text " + std::wstring(control.Text())
                             : (control.Enabled() ? L"queue on" : L"queue off"));
     }
   }

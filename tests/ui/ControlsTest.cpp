@@ -34,7 +34,7 @@ struct ControlsBench {
   ControlsBench() {
     form.Load();
     form.Shown(view);
-    form.text.onChange = [this] { events.push_back(L"change " + form.text.Text()); };
+    form.text.onChange = [this] { events.push_back(L"change " + std::wstring(form.text.Text())); };
     form.check.onClick = [this] { events.push_back(form.check.Value() ? L"ticked" : L"unticked"); };
     form.button.onClick = [this] { events.push_back(L"clicked"); };
     form.timer.onTimer = [this] { events.push_back(L"tick"); };

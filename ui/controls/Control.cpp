@@ -4,14 +4,19 @@
 
 namespace ui {
 
-Control::Control(Form& form, ControlKind kind, common::Literal name)
-    : form_(form), kind_(kind), name_(name) {
+Control::Control(Form& form, ControlKind kind, common::Literal name, common::Literal caption)
+    : form_(form), kind_(kind), name_(name), text_(caption) {
   form_.Add(*this);
 }
 
 void Control::SetText(std::wstring_view text) {
   StoreText(text);
   PropertySet(Property::kText);
+}
+
+void Control::StoreText(std::wstring_view text) {
+  set_ = text;
+  text_ = set_;
 }
 
 void Control::SetEnabled(bool enabled) {

@@ -38,7 +38,7 @@ enum class ControlKind {
 /// shows the form; what the user does comes from the desktop and raises only the event.
 class Control {
  public:
-  Control(Form& form, ControlKind kind, common::Literal name);
+  Control(Form& form, ControlKind kind, common::Literal name, common::Literal caption = {});
   virtual ~Control() = default;
   Control(const Control&) = delete;
   Control& operator=(const Control&) = delete;
@@ -48,7 +48,7 @@ class Control {
   Form& form() const { return form_; }
 
   /// The text of a text box or status bar; the caption of everything else.
-  const std::wstring& Text() const { return text_; }
+  std::wstring_view Text() const { return text_; }
   virtual void SetText(std::wstring_view text);
 
   bool Enabled() const { return enabled_; }
@@ -65,13 +65,14 @@ class Control {
 
  protected:
   void PropertySet(Property property);
-  void StoreText(std::wstring_view text) { text_ = text; }
+  void StoreText(std::wstring_view text);
 
  private:
   Form& form_;
   ControlKind kind_;
   common::Literal name_;
-  std::wstring text_;
+  std::wstring_view text_;  ///< its caption, until another one is set
+  std::wstring set_;
   bool enabled_ = true;
 };
 

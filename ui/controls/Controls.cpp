@@ -6,19 +6,14 @@ namespace ui {
 
 using common::Literal;
 
-Label::Label(Form& form, Literal name, Literal caption) : Control(form, ControlKind::kLabel, name) {
-  StoreText(caption);
-}
+Label::Label(Form& form, Literal name, Literal caption)
+    : Control(form, ControlKind::kLabel, name, caption) {}
 
-ListHeading::ListHeading(Form& form, Literal name, std::wstring_view caption,
-                         std::vector<int> columns)
-    : Control(form, ControlKind::kListHeading, name), columns_(std::move(columns)) {
-  StoreText(caption);
-}
+ListHeading::ListHeading(Form& form, Literal name, Literal caption, std::span<const int> columns)
+    : Control(form, ControlKind::kListHeading, name, caption), columns_(columns) {}
 
-Frame::Frame(Form& form, Literal name, Literal caption) : Control(form, ControlKind::kFrame, name) {
-  StoreText(caption);
-}
+Frame::Frame(Form& form, Literal name, Literal caption)
+    : Control(form, ControlKind::kFrame, name, caption) {}
 
 StatusBar::StatusBar(Form& form, Literal name) : Control(form, ControlKind::kStatusBar, name) {}
 
@@ -67,9 +62,7 @@ wchar_t TextBox::FilterKey(wchar_t character) {
 }
 
 CheckBox::CheckBox(Form& form, Literal name, Literal caption)
-    : Control(form, ControlKind::kCheckBox, name) {
-  StoreText(caption);
-}
+    : Control(form, ControlKind::kCheckBox, name, caption) {}
 
 void CheckBox::SetValue(bool value) {
   if (value_ == value) return;
@@ -84,9 +77,7 @@ void CheckBox::Clicked(bool value) {
 }
 
 Button::Button(Form& form, Literal name, Literal caption)
-    : Control(form, ControlKind::kButton, name) {
-  StoreText(caption);
-}
+    : Control(form, ControlKind::kButton, name, caption) {}
 
 void Button::Clicked() {
   if (onClick) onClick();

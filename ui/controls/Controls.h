@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <vector>
 
 #include "ui/controls/Control.h"
@@ -16,14 +17,14 @@ class Label : public Control {
 /// list, whatever blanks lie between the words.
 class ListHeading : public Control {
  public:
-  /// `columns` says where the list's columns begin, in characters.
-  ListHeading(Form& form, common::Literal name, std::wstring_view caption,
-              std::vector<int> columns);
+  /// `columns` says where the list's columns begin, in characters; they outlast the form.
+  ListHeading(Form& form, common::Literal name, common::Literal caption,
+              std::span<const int> columns);
 
-  const std::vector<int>& Columns() const { return columns_; }
+  std::span<const int> Columns() const { return columns_; }
 
  private:
-  std::vector<int> columns_;
+  std::span<const int> columns_;
 };
 
 class Frame : public Control {

@@ -39,9 +39,10 @@ SelectionRow ReadRow(std::wstring_view text, int segmentWidth) {
 
 SelectionRow ReadRow(std::wstring_view text) { return ReadRow(text, common::Length(text)); }
 
-std::vector<int> RowColumns() {
+std::span<const int> RowColumns() {
   constexpr int kFOPStart = kNumberWidth + kPersonsWidth;
-  return {0, kNumberWidth, kFOPStart, kFOPStart + kFOPWidth};
+  static constexpr int kColumns[] = {0, kNumberWidth, kFOPStart, kFOPStart + kFOPWidth};
+  return kColumns;
 }
 
 }  // namespace ui

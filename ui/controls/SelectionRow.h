@@ -1,8 +1,8 @@
 #pragma once
 
+#include <span>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace ui {
 
@@ -26,6 +26,6 @@ SelectionRow ReadRow(std::wstring_view text, int segmentWidth);
 SelectionRow ReadRow(std::wstring_view text);
 
 /// Where the columns of a row begin, counted from 0.
-std::vector<int> RowColumns();
+std::span<const int> RowColumns();
 
 }  // namespace ui

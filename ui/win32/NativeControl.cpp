@@ -44,7 +44,7 @@ void NativeControl::Push(Property property) {
   if (property == Property::kEnabled) Enable(control_.Enabled());
   if (property != Property::kText) return;
   pushing_ = true;
-  SetWindowTextW(window_, control_.Text().c_str());
+  SetWindowTextW(window_, std::wstring(control_.Text()).c_str());
   pushing_ = false;
 }
 

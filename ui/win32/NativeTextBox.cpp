@@ -92,7 +92,7 @@ void NativeTextBox::EraseWord() {
   TakeSelection();
   const int end = control().SelectionStart();
   if (control().SelectionLength() == 0) {
-    const std::wstring before = control().Text().substr(0, static_cast<std::size_t>(end));
+    const auto before = control().Text().substr(0, static_cast<std::size_t>(end));
     const std::size_t last = before.find_last_not_of(L' ');
     const std::size_t blank = last == before.npos ? last : before.find_last_of(L' ', last);
     Select(static_cast<int>(blank + 1), end);

@@ -36,12 +36,12 @@ RECT PlaceIn(HWND dialog, HWND child) {
   return place;
 }
 
-SIZE SizeOf(HWND window, const std::wstring& text, UINT format = 0) {
+SIZE SizeOf(HWND window, std::wstring_view text, UINT format = 0) {
   const HDC dc = GetDC(window);
   const HGDIOBJ before =
       SelectObject(dc, reinterpret_cast<HFONT>(SendMessageW(window, WM_GETFONT, 0, 0)));
   RECT area = {};
-  DrawTextW(dc, text.c_str(), -1, &area, DT_CALCRECT | format);
+  DrawTextW(dc, text.data(), static_cast<int>(text.size()), &area, DT_CALCRECT | format);
   SelectObject(dc, before);
   ReleaseDC(window, dc);
   return {area.right, area.bottom};
@@ -68,7 +68,7 @@ bool Overlap(const RECT& a, const RECT& b) {
   return IntersectRect(&common, &a, &b) != FALSE;
 }
 
-wchar_t Accelerator(const std::wstring& caption) {
+wchar_t Accelerator(std::wstring_view caption) {
   const std::size_t at = caption.find(L'&');
   if (at == caption.npos) return L'\0';
   return static_cast<wchar_t>(towupper(caption.at(at + 1)));

@@ -88,7 +88,7 @@ void ExpectWordsOverColumns(Form& form, int headingId, int listId) {
   MapWindowPoints(list, heading, &left, 1);
   const int width = CharacterWidth(list);
   const std::vector<int> beginnings = canvas.Beginnings(width);
-  const std::vector<int> columns = RowColumns();
+  const std::span<const int> columns = RowColumns();
   ASSERT_EQ(beginnings.size(), columns.size());
   for (std::size_t i = 0; i < columns.size(); ++i) {
     // Letters have a small margin of their own.
