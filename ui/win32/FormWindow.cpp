@@ -1,5 +1,7 @@
 #include "ui/win32/FormWindow.h"
 
+#include <algorithm>
+
 #include "common/RunTimeError.h"
 #include "ui/win32/ControlIds.h"
 
@@ -115,7 +117,7 @@ INT_PTR CALLBACK FormWindow::Procedure(HWND window, UINT message, WPARAM wParam,
 }
 
 INT_PTR FormWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
-  const auto sender = [&] { return NativeControl::Of(reinterpret_cast<HWND>(lParam)); };
+  const auto sender = [&] { return FindOf(reinterpret_cast<HWND>(lParam)); };
   switch (message) {
     case WM_COMMAND:
       if (LOWORD(wParam) == IDCANCEL) {  // Esc
@@ -143,7 +145,7 @@ INT_PTR FormWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     }
     case WM_DRAWITEM: {
       const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
-      if (NativeControl* const native = NativeControl::Of(item.hwndItem)) native->Draw(item);
+      if (NativeControl* const native = FindOf(item.hwndItem)) native->Draw(item);
       return TRUE;
     }
     default:
@@ -165,6 +167,14 @@ bool FormWindow::SetPointer(LPARAM lParam) {
 
 NativeControl* FormWindow::Find(const Control* control) const {
   const auto found = controls_.find(control);
+  return found == controls_.end() ? nullptr : found->second.get();
+}
+
+NativeControl* FormWindow::FindOf(HWND window) const {
+  if (window == nullptr) return nullptr;
+  const auto found = std::find_if(controls_.begin(), controls_.end(), [window](const auto& entry) {
+    return entry.second->window() == window;
+  });
   return found == controls_.end() ? nullptr : found->second.get();
 }
 

@@ -47,8 +47,9 @@ class FormWindow : public FormView {
   void Close();
   void AskToClose();
   bool SetPointer(LPARAM lParam);
-  /// Null when there is none.
+  // Null when there is none.
   NativeControl* Find(const Control* control) const;
+  NativeControl* FindOf(HWND window) const;
 
   Form* form_;  ///< null once closed
   Shell& shell_;

@@ -8,12 +8,17 @@ namespace ui {
 namespace {
 
 constexpr UINT_PTR kSubclass = 1;
-constexpr wchar_t kSelf[] = L"ui::NativeControl";
 
 /// What tells that the user has changed or clicked a control of this kind.
 WORD ChangeOf(ControlKind kind) {
   if (kind == ControlKind::kTextBox) return EN_CHANGE;
   return kind == ControlKind::kListBox ? LBN_SELCHANGE : BN_CLICKED;
+}
+
+/// Labels, frames and the status bar are only looked at.
+bool IsForTheUser(ControlKind kind) {
+  return kind == ControlKind::kTextBox || kind == ControlKind::kCheckBox ||
+         kind == ControlKind::kButton || kind == ControlKind::kListBox;
 }
 
 }  // namespace
@@ -23,19 +28,13 @@ NativeControl::NativeControl(Control& control, HWND window, Shell& shell)
 
 NativeControl::~NativeControl() { Forget(); }
 
-NativeControl* NativeControl::Of(HWND window) {
-  return static_cast<NativeControl*>(GetPropW(window, kSelf));
-}
-
 void NativeControl::Listen() {
-  if (window_ == nullptr) return;
+  if (!IsForTheUser(control_.kind())) return;
   SetWindowSubclass(window_, &Procedure, kSubclass, reinterpret_cast<DWORD_PTR>(this));
-  SetPropW(window_, kSelf, this);
 }
 
 void NativeControl::Forget() {
   if (window_ == nullptr) return;
-  RemovePropW(window_, kSelf);
   RemoveWindowSubclass(window_, &Procedure, kSubclass);
   window_ = nullptr;
 }
@@ -49,10 +48,11 @@ void NativeControl::Push(Property property) {
 }
 
 void NativeControl::PushAll() {
-  // Items before their selection, everything else in any order.
+  // Items before their selection, everything else in any order. The colour is asked for when the
+  // control is painted, and the user cannot change it.
   for (const Property property :
-       {Property::kText, Property::kEnabled, Property::kLocked, Property::kValue,
-        Property::kBackColor, Property::kItems, Property::kSelection, Property::kInterval}) {
+       {Property::kText, Property::kEnabled, Property::kLocked, Property::kValue, Property::kItems,
+        Property::kSelection, Property::kInterval}) {
     Push(property);
   }
 }

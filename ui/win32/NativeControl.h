@@ -21,18 +21,18 @@ class NativeControl {
  public:
   /// `window` is the control's; the dialog's for a control without a window of its own.
   static std::unique_ptr<NativeControl> Make(Control& control, HWND window, Shell& shell);
-  /// The one that listens to the window; null when there is none.
-  static NativeControl* Of(HWND window);
 
   NativeControl(Control& control, HWND window, Shell& shell);
   virtual ~NativeControl();
   NativeControl(const NativeControl&) = delete;
   NativeControl& operator=(const NativeControl&) = delete;
 
+  /// Null for a control without a window of its own.
   HWND window() const { return window_; }
 
-  /// From here on it sees what the user does, and every message of the window. What is pushed
-  /// before is spared that detour, which takes longer than the rest of binding a control.
+  /// From here on it sees what the user does, and every message of the window, when the user can do
+  /// anything there. What is pushed before is spared that detour, which takes longer than the rest
+  /// of binding a control.
   void Listen();
   /// The program has set a property.
   virtual void Push(Property property);
