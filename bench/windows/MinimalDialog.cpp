@@ -1,7 +1,5 @@
 #include "bench/windows/MinimalDialog.h"
 
-#include "bench/windows/resource.h"
-
 namespace {
 
 INT_PTR CALLBACK Handle(HWND dialog, UINT message, WPARAM, LPARAM) {
@@ -11,6 +9,6 @@ INT_PTR CALLBACK Handle(HWND dialog, UINT message, WPARAM, LPARAM) {
 
 }  // namespace
 
-int ShowMinimalDialog(HINSTANCE instance) {
-  return static_cast<int>(DialogBoxParamW(instance, L"MINIMAL", nullptr, Handle, 0));
+int ShowMinimalDialog(HINSTANCE instance, const wchar_t* dialog) {
+  return static_cast<int>(DialogBoxParamW(instance, dialog, nullptr, Handle, 0));
 }

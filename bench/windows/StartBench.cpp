@@ -1,6 +1,6 @@
-// Measures how the program starts beside two minimal dialog programs, one of which attaches to the
-// terminal first, with a practice terminal whose host answers at once: the time to the first window
-// and to the dialog, and the memory at it.
+// Measures how the program starts beside three minimal dialog programs, one of which attaches to
+// the terminal first and one has the window of the program's own dialog, with a practice terminal
+// whose host answers at once: the time to the first window and to the dialog, and the memory at it.
 //
 //   pta-start-bench [ROUNDS]   all programs lie in its own folder, with PTA_QX.ini
 
@@ -32,18 +32,20 @@ void PrintFigure(const char* what, double figure, double atMost, const char* uni
 template <typename Of>
 struct Each {
   Of minimal;
+  Of unbound;  ///< has the program's own dialog
   Of attached;
   Of program;
 };
 
 void Print(const Each<Start>& medians, bench::Milliseconds host) {
-  const auto& [minimal, attached, program] = medians;
+  const auto& [minimal, unbound, attached, program] = medians;
   std::printf("\nStart, medians in milliseconds: first window, dialog ready; memory in MB\n");
   const auto line = [](const char* name, const Start& start) {
     std::printf("  %-52s %7.0f %7.0f %7.2f\n", name, start.firstWindow.count(), start.ready.count(),
                 start.megabytes);
   };
   line("minimal dialog program", minimal);
+  line("minimal program with PTA_QX's dialog, unbound", unbound);
   line("minimal dialog program that attaches", attached);
   line("PTA_QX", program);
   std::printf("  %-52s         %7.0f\n", "the host: its library calls alone", host.count());
@@ -55,8 +57,11 @@ void Print(const Each<Start>& medians, bench::Milliseconds host) {
   PrintFigure("dialog ready, over 1.5 minimal starts and the host", program.ready / withHost, 1.0,
               "");
   // A new process attaches; the host's calls are those of one that long has.
+  const bench::Milliseconds withAttaching = withHost + attached.ready - minimal.ready;
   std::printf("  %-52s %7.2f\n", "dialog ready, over these and what attaching takes",
-              program.ready / (withHost + attached.ready - minimal.ready));
+              program.ready / withAttaching);
+  std::printf("  %-52s %7.2f\n", "dialog ready, over these and the dialog's window",
+              program.ready / (withAttaching + unbound.ready - minimal.ready));
   if (program.megabytes > 0) {
     PrintFigure("private memory above the minimal program", program.megabytes - minimal.megabytes,
                 10, " MB");
@@ -66,11 +71,16 @@ void Print(const Each<Start>& medians, bench::Milliseconds host) {
 }
 
 void PrintRound(const Each<Start>& start, bench::Milliseconds host) {
-  const auto& [minimal, attached, program] = start;
-  std::printf("  first window %5.0f %5.0f %5.0f   dialog ready %5.0f %5.0f %5.0f   host %5.0f\n",
-              minimal.firstWindow.count(), attached.firstWindow.count(),
-              program.firstWindow.count(), minimal.ready.count(), attached.ready.count(),
-              program.ready.count(), host.count());
+  const auto line = [](const char* what, bench::Milliseconds minimal, bench::Milliseconds unbound,
+                       bench::Milliseconds attached, bench::Milliseconds program) {
+    std::printf("  %s %5.0f %5.0f %5.0f %5.0f ", what, minimal.count(), unbound.count(),
+                attached.count(), program.count());
+  };
+  const auto& [minimal, unbound, attached, program] = start;
+  line("first window", minimal.firstWindow, unbound.firstWindow, attached.firstWindow,
+       program.firstWindow);
+  line("dialog ready", minimal.ready, unbound.ready, attached.ready, program.ready);
+  std::printf("  host %5.0f\n", host.count());
   std::fflush(stdout);
 }
 
@@ -98,16 +108,18 @@ void Measure(int rounds) {
   for (int round = 0; round < rounds; ++round) {
     terminal.Load(booking);
     const Each<Start> start{bench::StartOnce(folder + L"pta-minimal.exe", ID_MINIMAL_OK),
+                            bench::StartOnce(folder + L"pta-unbound.exe", ID_cmdOK),
                             bench::StartOnce(folder + L"pta-attached.exe", ID_MINIMAL_OK),
                             bench::StartOnce(folder + L"PTA_QX.exe", ID_cmdOK)};
     terminal.Load(booking);
     PrintRound(start, host.Measure());
     starts.minimal.push_back(start.minimal);
     starts.attached.push_back(start.attached);
+    starts.unbound.push_back(start.unbound);
     starts.program.push_back(start.program);
   }
-  Print({bench::Median(starts.minimal), bench::Median(starts.attached),
-         bench::Median(starts.program)},
+  Print({bench::Median(starts.minimal), bench::Median(starts.unbound),
+         bench::Median(starts.attached), bench::Median(starts.program)},
         host.Median());
 }
 
