@@ -17,6 +17,13 @@ struct Operation {
   std::wstring_view returnedClass = {};  ///< class of the object it gives; empty: no object
 };
 
+/// Whether a call's operation, null for one that this program does not use, is this one, wherever
+/// it is kept: by object, interface and slot.
+inline bool Is(const Operation* called, const Operation& operation) noexcept {
+  return called != nullptr && called->object == operation.object &&
+         called->interfaceNumber == operation.interfaceNumber && called->slot == operation.slot;
+}
+
 namespace operations {
 
 inline constexpr std::wstring_view kBag = L"ParameterBag";

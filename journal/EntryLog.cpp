@@ -112,8 +112,8 @@ void EntryLog::StartReading(const hostlib::CallInfo& call) {
 }
 
 void EntryLog::ReadFlag(const hostlib::CallInfo& call, const hostlib::Value& answer) {
-  const bool isRead = open_->reader != nullptr && call.object == hostlib::operations::kBag &&
-                      call.slot == hostlib::operations::parameter_bag::kGetValue.slot;
+  const bool isRead =
+      open_->reader != nullptr && Is(call.operation, hostlib::operations::parameter_bag::kGetValue);
   const auto* key = isRead ? call.arguments.front().If<std::wstring>() : nullptr;
   if (key == nullptr || answer.If<bool>() == nullptr) return;
   const auto& flags = open_->reader->flags;

@@ -6,12 +6,6 @@
 
 namespace journal {
 
-/// Whether a call's operation, null for one that this program does not use, is this one.
-inline bool Is(const hostlib::Operation* called, const hostlib::Operation& operation) noexcept {
-  return called != nullptr && called->object == operation.object &&
-         called->interfaceNumber == operation.interfaceNumber && called->slot == operation.slot;
-}
-
 /// How an operation that reaches the host tells what became of its entry.
 enum class Verdict {
   kByReturning,  ///< the library itself reads the answer, and fails when it is not good

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "common/Text.h"
-#include "journal/EntryTable.h"
+#include "hostlib/Operations.h"
 
 namespace journal {
 namespace {

@@ -53,8 +53,7 @@ CallSite SiteOf(const CallInfo& call) {
   site.name = std::wstring(call.object) + L"." +
               std::wstring(call.operation == nullptr ? L"(default)" : call.operation->name);
   site.isSession = call.object == session::kClass;
-  const auto& getValue = hostlib::operations::parameter_bag::kGetValue;
-  site.isBagValue = call.object == getValue.object && call.slot == getValue.slot;
+  site.isBagValue = Is(call.operation, hostlib::operations::parameter_bag::kGetValue);
   if (site.isBagValue) site.name += L" " + call.arguments[0].Text();
   return site;
 }
