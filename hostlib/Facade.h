@@ -24,6 +24,10 @@ class Facade {
     const std::array<Value, sizeof...(values)> arguments{Value(std::forward<Values>(values))...};
     return CallWith(operation, arguments);
   }
+  /// The same with a value as it stands.
+  Value Call(const Operation& operation, const Value& value) const {
+    return CallWith(operation, Arguments(&value, 1));
+  }
 
   ObjectPtr object_;
 

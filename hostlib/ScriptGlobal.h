@@ -24,11 +24,11 @@ class ScriptGlobal : public Facade {
   std::wstring TextToHostDate(std::wstring_view date) {
     return Use(operations::script_global::kTextToHostDate, date).Text();
   }
-  std::wstring ToText(Value value) {
-    return Use(operations::script_global::kToText, std::move(value)).Text();
+  std::wstring ToText(const Value& value) {
+    return Use(operations::script_global::kToText, value).Text();
   }
-  bool ToBoolean(Value value) {
-    return Use(operations::script_global::kToBoolean, std::move(value)).Flag();
+  bool ToBoolean(const Value& value) {
+    return Use(operations::script_global::kToBoolean, value).Flag();
   }
   /// True when the run must end at once.
   bool Attach(const ObjectPtr& progressForm, const ObjectPtr& application) {

@@ -47,8 +47,8 @@ class Value {
   Value(std::int32_t integer) : content_(integer) {}
   Value(double number) : content_(number) {}
   Value(std::wstring text) : content_(std::move(text)) {}
-  Value(std::wstring_view text) : content_(std::wstring(text)) {}
-  Value(const wchar_t* text) : content_(std::wstring(text)) {}
+  Value(std::wstring_view text) : content_(std::in_place_type<std::wstring>, text) {}
+  Value(const wchar_t* text) : content_(std::in_place_type<std::wstring>, text) {}
   Value(TextArray array) : content_(std::move(array)) {}
   Value(IntegerArray array) : content_(std::move(array)) {}
   Value(DoubleArray array) : content_(std::move(array)) {}
