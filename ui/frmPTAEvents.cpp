@@ -20,29 +20,35 @@ bool IsQueueCharacter(wchar_t character) {
 
 /// What may be typed into a field, and what becomes of it when the focus comes.
 struct TypingRule {
-  TextBox& field;
   bool upperCases;
   bool (*allows)(wchar_t);  ///< null: everything
   bool selectsAll;
 };
+constexpr TypingRule kCityCode{true, IsCapital, true};
+constexpr TypingRule kIATANumber{false, common::IsDigit, true};
+constexpr TypingRule kCommission{true, IsCommissionCharacter, true};
+constexpr TypingRule kQueue{true, IsQueueCharacter, true};
+constexpr TypingRule kText{true, nullptr, true};
+constexpr TypingRule kLongRemark{true, nullptr, false};
 
 /// "P&WCT:" is PWCT.
 std::wstring NameOf(const Label& label) {
   return common::Replace(common::Replace(label.Text(), L"&", L""), L":", L"");
 }
 
-void BindTyping(const TypingRule& rule, Desktop& desktop) {
-  rule.field.onKeyPress = [&desktop, rule](wchar_t& character) {
+/// The rule outlasts the field.
+void BindTyping(TextBox& field, const TypingRule& rule, Desktop& desktop) {
+  field.onKeyPress = [&desktop, &rule](wchar_t& character) {
     if (rule.upperCases) character = common::UpperCase(character);
     if (rule.allows == nullptr || character == kBackspace || rule.allows(character)) return;
     character = kRefused;
     desktop.Beep();
   };
   if (rule.upperCases) {
-    rule.field.onPaste = [](std::wstring_view text) { return common::UpperCase(text); };
+    field.onPaste = [](std::wstring_view text) { return common::UpperCase(text); };
   }
   if (rule.selectsAll) {
-    rule.field.onGotFocus = [&field = rule.field] { field.SelectAll(); };
+    field.onGotFocus = [&field] { field.SelectAll(); };
   }
 }
 
@@ -73,18 +79,15 @@ std::wstring frmPTA::IncompleteFields() const {
 }
 
 void frmPTA::BindTextBoxes() {
-  const TypingRule rules[] = {
-      {txtCityCode, true, IsCapital, true},
-      {txtIATANumber, false, common::IsDigit, true},
-      {txtCommission, true, IsCommissionCharacter, true},
-      {txtPTA, true, nullptr, false},
-      {txtPWCT, true, nullptr, true},
-      {txtQueueCat, true, IsQueueCharacter, true},
-      {txtQueueingOfficeID, true, nullptr, true},
-      {txtOPText, true, nullptr, true},
-      {txtRMBODInfo, true, nullptr, false},
-  };
-  for (const TypingRule& rule : rules) BindTyping(rule, desktop_);
+  BindTyping(txtCityCode, kCityCode, desktop_);
+  BindTyping(txtIATANumber, kIATANumber, desktop_);
+  BindTyping(txtCommission, kCommission, desktop_);
+  BindTyping(txtPTA, kLongRemark, desktop_);
+  BindTyping(txtPWCT, kText, desktop_);
+  BindTyping(txtQueueCat, kQueue, desktop_);
+  BindTyping(txtQueueingOfficeID, kText, desktop_);
+  BindTyping(txtOPText, kText, desktop_);
+  BindTyping(txtRMBODInfo, kLongRemark, desktop_);
 
   for (const RequiredField& required : required_) {
     required.field.onChange = [this, &required] { RequiredFieldChanged(required); };

@@ -24,10 +24,9 @@ void Control::SetEnabled(bool enabled) {
   PropertySet(Property::kEnabled);
 }
 
-bool Control::CanFocus() const {
-  const bool takesFocus = kind_ == ControlKind::kTextBox || kind_ == ControlKind::kCheckBox ||
-                          kind_ == ControlKind::kButton || kind_ == ControlKind::kListBox;
-  return takesFocus && enabled_;
+bool Control::TakesFocus() const {
+  return kind_ == ControlKind::kTextBox || kind_ == ControlKind::kCheckBox ||
+         kind_ == ControlKind::kButton || kind_ == ControlKind::kListBox;
 }
 
 void Control::SetFocus() {

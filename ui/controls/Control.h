@@ -54,8 +54,11 @@ class Control {
   bool Enabled() const { return enabled_; }
   void SetEnabled(bool enabled);
 
-  /// Whether the user can move the focus here.
-  bool CanFocus() const;
+  /// Whether it is there for the user to act on. Labels, frames and the status bar are only looked
+  /// at.
+  bool TakesFocus() const;
+  /// Whether the user can move the focus here now.
+  bool CanFocus() const { return TakesFocus() && enabled_; }
   /// Moves the focus here. Nothing happens while the form is not visible or the control is off.
   void SetFocus();
   bool HasFocus() const;

@@ -2,7 +2,14 @@
 
 namespace ui {
 
-Form::Form(std::wstring_view name) : name_(name) {}
+namespace {
+
+/// Most forms have no more.
+constexpr std::size_t kFewControls = 8;
+
+}  // namespace
+
+Form::Form(std::wstring_view name) : name_(name) { controls_.reserve(kFewControls); }
 
 Form::~Form() {
   if (visible_ && view_ != nullptr) view_->FormGone(*this);

@@ -15,12 +15,6 @@ WORD ChangeOf(ControlKind kind) {
   return kind == ControlKind::kListBox ? LBN_SELCHANGE : BN_CLICKED;
 }
 
-/// Labels, frames and the status bar are only looked at.
-bool IsForTheUser(ControlKind kind) {
-  return kind == ControlKind::kTextBox || kind == ControlKind::kCheckBox ||
-         kind == ControlKind::kButton || kind == ControlKind::kListBox;
-}
-
 }  // namespace
 
 NativeControl::NativeControl(Control& control, HWND window, Shell& shell)
@@ -29,7 +23,7 @@ NativeControl::NativeControl(Control& control, HWND window, Shell& shell)
 NativeControl::~NativeControl() { Forget(); }
 
 void NativeControl::Listen() {
-  if (!IsForTheUser(control_.kind())) return;
+  if (!control_.TakesFocus()) return;
   SetWindowSubclass(window_, &Procedure, kSubclass, reinterpret_cast<DWORD_PTR>(this));
 }
 
