@@ -86,9 +86,9 @@ constexpr Operation kAll[] = {
 std::span<const Operation> AllOperations() { return kAll; }
 
 const Operation* FindOperation(std::wstring_view object, int interfaceNumber, int slot) {
-  const auto* found = std::find_if(std::begin(kAll), std::end(kAll), [&](const Operation& one) {
-    return one.object == object && one.interfaceNumber == interfaceNumber && one.slot == slot;
-  });
+  const Operation asked{object, interfaceNumber, slot, L"", 0};
+  const auto* found = std::find_if(std::begin(kAll), std::end(kAll),
+                                   [&](const Operation& one) { return Is(&asked, one); });
   return found == std::end(kAll) ? nullptr : found;
 }
 

@@ -19,7 +19,7 @@ constexpr std::int32_t kFaultNumber = 4711;
 constexpr auto kServerGone = static_cast<std::int32_t>(0x800706BA);
 
 bool IsEntry(const CallInfo& call) {
-  return call.object == session::kClass && call.slot != session::kSessionText.slot;
+  return call.object == session::kClass && !Is(call.operation, session::kSessionText);
 }
 
 std::wstring EntryOf(const CallInfo& call) {
@@ -141,15 +141,15 @@ void FaultInjector::FailIfDown(bool isReporter, bool isSession) {
 // The reporter tells of the fault as it would of a failure of the library's own.
 Value FaultInjector::Report(const CallInfo& call, bool wasRead,
                             const std::function<Value()>& proceed) {
-  if (call.slot == reporter::kLastErrorText.slot) {
+  if (Is(call.operation, reporter::kLastErrorText)) {
     lastErrorRead_ = true;
     return lastError_ ? Value(lastError_->text) : proceed();
   }
-  if (call.slot == reporter::kLastErrorNumber.slot) {
+  if (Is(call.operation, reporter::kLastErrorNumber)) {
     return lastError_ ? Value(lastError_->number) : proceed();
   }
-  if (call.slot == reporter::kReportLastError.slot) return ShowLastError(false, proceed);
-  const bool showsIt = wasRead && call.slot == reporter::kShowMessage.slot;
+  if (Is(call.operation, reporter::kReportLastError)) return ShowLastError(false, proceed);
+  const bool showsIt = wasRead && Is(call.operation, reporter::kShowMessage);
   return showsIt ? ShowLastError(true, proceed) : proceed();
 }
 

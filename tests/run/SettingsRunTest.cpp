@@ -185,7 +185,7 @@ class ReadOnlyFile : public hostlib::CallHook {
  public:
   hostlib::Value OnCall(const hostlib::CallInfo& call,
                         const std::function<hostlib::Value()>& proceed) override {
-    if (call.object == L"ProfileStore" && call.slot == 8) {
+    if (Is(call.operation, hostlib::operations::profile_store::kWriteValue)) {
       throw hostlib::LibraryError(5, L"test", L"read-only");
     }
     return proceed();
