@@ -1,5 +1,5 @@
-// The same with the window of the program's own dialog, into which nothing is put. What it takes
-// beyond the other one's window is what Windows takes for the dialog's controls.
+// A minimal program with the window of the program's own dialog, into which nothing is put. What it
+// takes beyond the one with a window of its own is what Windows takes for the dialog's controls.
 #include "bench/windows/MinimalDialog.h"
 #include "ui/win32/CommonControls.h"
 

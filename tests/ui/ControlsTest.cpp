@@ -74,11 +74,13 @@ TEST(TextBox, SettingTheTextUnselects) {
   EXPECT_EQ(bench.form.text.SelectionLength(), 0);
 }
 
-TEST(TextBox, AFieldCanBeSetToItsOwnText) {
+TEST(TextBox, AFieldCanBeSetToItsOwnTextAndToAPartOfIt) {
   ControlsBench bench;
   bench.form.text.SetText(L"a text too long to be kept inside the object itself");
   bench.form.text.SetText(bench.form.text.Text());
   EXPECT_EQ(bench.form.text.Text(), L"a text too long to be kept inside the object itself");
+  bench.form.text.SetText(bench.form.text.Text().substr(2));
+  EXPECT_EQ(bench.form.text.Text(), L"text too long to be kept inside the object itself");
 }
 
 TEST(TextBox, WhatTheUserTypesRaisesChangeAndIsNotEchoed) {

@@ -137,6 +137,13 @@ TEST(Form, AControlThatPassesTheFocusOnIsNotTheFormsAnyMore) {
   EXPECT_EQ(bench.form.ActiveControl(), &bench.form.second);
 }
 
+TEST(Form, AControlThatUnloadsTheFormGivesTheFocusToNobody) {
+  ShownBench bench;
+  bench.form.first.onGotFocus = [&] { bench.form.Unload(); };
+  bench.form.first.SetFocus();
+  EXPECT_EQ(bench.form.TakeEvents(), Events{L"unload"});
+}
+
 TEST(Form, TheFocusOnTheSameControlAgainRaisesNothing) {
   ShownBench bench;
   bench.form.first.SetFocus();

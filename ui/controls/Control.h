@@ -47,7 +47,8 @@ class Control {
   std::wstring_view name() const { return name_; }
   Form& form() const { return form_; }
 
-  /// The text of a text box or status bar; the caption of everything else.
+  /// The text of a text box or status bar; the caption of everything else. Stands until the next
+  /// one is set.
   std::wstring_view Text() const { return text_; }
   virtual void SetText(std::wstring_view text);
 

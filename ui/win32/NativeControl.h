@@ -30,9 +30,9 @@ class NativeControl {
   /// Null for a control without a window of its own.
   HWND window() const { return window_; }
 
-  /// From here on it sees what the user does, and every message of the window, when the user can do
-  /// anything there. What is pushed before is spared that detour, which takes longer than the rest
-  /// of binding a control.
+  /// From here on it sees what the user does, and every message of the window, if the control takes
+  /// the focus: with the others the user does nothing. What is pushed before is spared that detour,
+  /// which takes longer than the rest of binding a control.
   void Listen();
   /// The program has set a property.
   virtual void Push(Property property);

@@ -116,7 +116,7 @@ TEST_F(FormWindowOnScreen, EnterInAFieldDoesNothingAndOnAButtonClicksIt) {
     driver::Press(Item(window, ID_cmdCancel), VK_TAB);
     driver::Press(Item(window, ID_txtPWCT), VK_RETURN);
     driver::Type(Item(window, ID_txtPWCT), L"x");
-    WaitUntil(L"all keys are through", [&] { return form.txtPWCT.Text() == L"x"; });
+    WaitUntil(L"all keys are through", [&] { return TextOf(Item(window, ID_txtPWCT)) == L"x"; });
   });
   EXPECT_EQ(log(), Lines{L"Cancel"});
 }
