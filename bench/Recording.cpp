@@ -85,6 +85,12 @@ class RecordingObject : public hostlib::Object {
   Recording& recording_;
 };
 
+std::vector<Value> WithObjects(const Step& step, const std::vector<ObjectPtr>& objects) {
+  std::vector<Value> arguments = step.arguments;
+  for (const auto& [argument, object] : step.objects) arguments[argument] = objects[object];
+  return arguments;
+}
+
 }  // namespace
 
 std::size_t Recording::CountCalls() const {
@@ -117,9 +123,10 @@ void Replay(const Recording& recording, hostlib::Library& library) {
         objects[step.object] = nullptr;
         break;
       case Step::Kind::kCall: {
-        std::vector<Value> arguments = step.arguments;
-        for (const auto& [argument, object] : step.objects) arguments[argument] = objects[object];
-        const Value answer = objects[step.object]->Call(step.number, arguments);
+        const Value answer =
+            step.objects.empty()
+                ? objects[step.object]->Call(step.number, step.arguments)
+                : objects[step.object]->Call(step.number, WithObjects(step, objects));
         if (step.made != Step::kNone) objects[step.made] = answer.AsObject();
         break;
       }
