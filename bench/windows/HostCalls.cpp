@@ -1,9 +1,8 @@
 #include "bench/windows/HostCalls.h"
 
-#include <algorithm>
-
 #include "app/Program.h"
 #include "bench/ReadyAgent.h"
+#include "bench/windows/Median.h"
 #include "platform/win32/WindowsPlatform.h"
 
 namespace bench {
@@ -38,11 +37,6 @@ Milliseconds HostCalls::Measure() {
   return times_.back();
 }
 
-Milliseconds HostCalls::Median() const {
-  std::vector<Milliseconds> sorted = times_;
-  const auto middle = sorted.begin() + static_cast<std::ptrdiff_t>(sorted.size() / 2);
-  std::nth_element(sorted.begin(), middle, sorted.end());
-  return *middle;
-}
+Milliseconds HostCalls::Median() const { return MedianOf(times_); }
 
 }  // namespace bench

@@ -4,9 +4,8 @@
 // The order matters: windows.h first.
 #include <psapi.h>
 
-#include <algorithm>
-
 #include "bench/windows/HostMemory.h"
+#include "bench/windows/Median.h"
 #include "tests/windows/driver/Driver.h"
 
 namespace bench {
@@ -56,15 +55,12 @@ Start StartOnce(const std::wstring& path, int control) {
 }
 
 Start Median(const std::vector<Start>& starts) {
-  const auto middle = [&](auto member) {
-    std::vector<Start> sorted = starts;
-    const auto at = sorted.begin() + static_cast<std::ptrdiff_t>(sorted.size() / 2);
-    std::nth_element(sorted.begin(), at, sorted.end(), [&](const Start& one, const Start& other) {
-      return one.*member < other.*member;
-    });
-    return *at.*member;
+  const auto median = [&]<typename Figure>(Figure Start::*member) {
+    std::vector<Figure> figures;
+    for (const Start& start : starts) figures.push_back(start.*member);
+    return MedianOf(std::move(figures));
   };
-  return {middle(&Start::firstWindow), middle(&Start::ready), middle(&Start::megabytes)};
+  return {median(&Start::firstWindow), median(&Start::ready), median(&Start::megabytes)};
 }
 
 }  // namespace bench
