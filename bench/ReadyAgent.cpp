@@ -9,8 +9,9 @@ namespace {
 
 void PressOK(ui::Form& form) {
   ui::Control* const ok = form.Find(L"cmdOK");
-  if (ok == nullptr || ok->kind() != ui::ControlKind::kButton || !ok->Enabled())
+  if (ok == nullptr || ok->kind() != ui::ControlKind::kButton || !ok->Enabled()) {
     throw std::logic_error("a form's OK can not be pressed");
+  }
   static_cast<ui::Button*>(ok)->Clicked();
 }
 
