@@ -19,8 +19,9 @@ void DemandNoBox(const Workplace& place) {
 }  // namespace
 
 Case::Case(const Booking& booking) : before_(booking) {
+  Recording recording;
   Workplace recorded = Prepare();
-  RecordingLibrary library(recorded.library(), recording_);
+  RecordingLibrary library(recorded.library(), recording);
   const int exitCode = app::RunProgram(library, recorded.agent, recorded.platform);
   Demand(exitCode == 0, "the recorded run failed");
   DemandNoBox(recorded);
@@ -28,6 +29,7 @@ Case::Case(const Booking& booking) : before_(booking) {
   pnrAfter_ = recorded.host.PnrText();
   Demand(common::Contains(pnrAfter_, L" FO 117-4012345678 STO "), "the recorded run wrote no PTA");
 
+  replay_ = std::make_unique<Replay>(std::move(recording));
   Workplace replayed = Prepare();
   ReplayBare(replayed);
   Demand(replayed.host.PnrText() == pnrAfter_, "a replay does not do what the run did");
@@ -37,7 +39,7 @@ void Case::Run(Workplace& place) const {
   app::RunProgram(place.library(), place.agent, place.platform);
 }
 
-void Case::ReplayBare(Workplace& place) const { Replay(recording_, place.library()); }
+void Case::ReplayBare(Workplace& place) { replay_->Run(place.library()); }
 
 void Case::RunAlone(Workplace& place, AnsweringLibrary& library) const {
   app::RunProgram(library, place.agent, place.platform);

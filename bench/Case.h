@@ -1,5 +1,7 @@
 #pragma once
 
+#include <memory>
+
 #include "bench/AnsweringLibrary.h"
 #include "bench/Workplace.h"
 
@@ -14,21 +16,21 @@ class Case {
   explicit Case(const Booking& booking);
 
   Workplace Prepare() const { return before_; }
-  AnsweringLibrary PrepareAnswers() const { return AnsweringLibrary(recording_); }
+  AnsweringLibrary PrepareAnswers() const { return AnsweringLibrary(recording()); }
 
   /// The whole program against the practice library.
   void Run(Workplace& place) const;
   /// The library calls of such a run, and nothing else.
-  void ReplayBare(Workplace& place) const;
+  void ReplayBare(Workplace& place);
   /// The whole program against recorded answers.
   void RunAlone(Workplace& place, AnsweringLibrary& library) const;
 
-  const Recording& recording() const { return recording_; }
+  const Recording& recording() const { return replay_->recording(); }
   const std::wstring& pnrAfter() const { return pnrAfter_; }
 
  private:
   Workplace before_;
-  Recording recording_;
+  std::unique_ptr<Replay> replay_;
   std::wstring pnrAfter_;
 };
 

@@ -11,7 +11,7 @@ namespace {
 
 [[gnu::noinline]] void MeasuredPart(const std::function<void()>& part) { part(); }
 
-bool DoOnce(const bench::Case& measured, const char* what) {
+bool DoOnce(bench::Case& measured, const char* what) {
   bench::Workplace place = measured.Prepare();
   if (std::strcmp(what, "run") == 0) {
     MeasuredPart([&] { measured.Run(place); });
@@ -32,14 +32,14 @@ int main(int argc, char** argv) {
   try {
     const bool known = argc == 3 && (std::strcmp(argv[1], "ordinary") == 0 ||
                                      std::strcmp(argv[1], "largest") == 0);
-    if (!known || !DoOnce(bench::Case(std::strcmp(argv[1], "ordinary") == 0
-                                          ? bench::OrdinaryBooking()
-                                          : bench::BookingOf(bench::LargestSize())),
-                          argv[2])) {
-      std::fprintf(stderr, "usage: pta-bench-once ordinary|largest run|calls|alone\n");
-      return 2;
+    if (known) {
+      bench::Case measured(std::strcmp(argv[1], "ordinary") == 0
+                               ? bench::OrdinaryBooking()
+                               : bench::BookingOf(bench::LargestSize()));
+      if (DoOnce(measured, argv[2])) return 0;
     }
-    return 0;
+    std::fprintf(stderr, "usage: pta-bench-once ordinary|largest run|calls|alone\n");
+    return 2;
   } catch (const std::exception& error) {
     std::fprintf(stderr, "pta-bench-once: %s\n", error.what());
     return 1;

@@ -1,6 +1,7 @@
 #include "bench/Overhead.h"
 
 #include <cstdio>
+#include <functional>
 
 namespace bench {
 namespace {
@@ -9,20 +10,19 @@ using benchmark::State;
 
 constexpr double kMostOverhead = 1.10;
 
-using Part = void (Case::*)(Workplace&) const;
-
 // What is prepared for a run, and what is left of it, are made and cleared away off the clock; and
 // so is the other part before each: neither is repeated in practice, where a processor would know
 // its code and its branches by heart.
-void Measure(State& state, const Case& measured, Part part, Part other) {
+template <typename Part, typename Other>
+void Measure(State& state, Case& measured, Part part, Other other) {
   for (auto _ : state) {
     state.PauseTiming();
     {
       Workplace before = measured.Prepare();
-      (measured.*other)(before);
+      std::invoke(other, measured, before);
       Workplace place = measured.Prepare();
       state.ResumeTiming();
-      (measured.*part)(place);
+      std::invoke(part, measured, place);
       state.PauseTiming();
       if (!place.agent.lastBox().empty()) state.SkipWithError("the run had something to report");
     }
@@ -30,7 +30,7 @@ void Measure(State& state, const Case& measured, Part part, Part other) {
   }
 }
 
-void Register(const std::string& name, const Case& measured) {
+void Register(const std::string& name, Case& measured) {
   benchmark::RegisterBenchmark((name + "/run").c_str(), [&measured](State& state) {
     Measure(state, measured, &Case::Run, &Case::ReplayBare);
   })->Unit(benchmark::kMicrosecond);

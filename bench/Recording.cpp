@@ -9,6 +9,7 @@ namespace {
 using hostlib::Arguments;
 using hostlib::ObjectPtr;
 using hostlib::Value;
+using hostlib::ValueView;
 
 /// An object of the program's own (the progress form), as it is shown to the library in a replay.
 class StandIn : public hostlib::Object {
@@ -55,9 +56,9 @@ class RecordingObject : public hostlib::Object {
 
  private:
   // What the library gets: its own objects, not ours.
-  std::vector<Value> Note(const Arguments& arguments, Step& step) const {
-    std::vector<Value> given(arguments.begin(), arguments.end());
-    step.arguments = given;
+  std::vector<ValueView> Note(const Arguments& arguments, Step& step) const {
+    std::vector<ValueView> given(arguments.begin(), arguments.end());
+    for (const ValueView& argument : arguments) step.arguments.emplace_back(argument);
     for (std::size_t i = 0; i < given.size(); ++i) {
       const auto* object = given[i].If<ObjectPtr>();
       if (object == nullptr) continue;
@@ -85,12 +86,6 @@ class RecordingObject : public hostlib::Object {
   Recording& recording_;
 };
 
-std::vector<Value> WithObjects(const Step& step, const std::vector<ObjectPtr>& objects) {
-  std::vector<Value> arguments = step.arguments;
-  for (const auto& [argument, object] : step.objects) arguments[argument] = objects[object];
-  return arguments;
-}
-
 }  // namespace
 
 std::size_t Recording::CountCalls() const {
@@ -109,25 +104,30 @@ ObjectPtr RecordingLibrary::Create(std::wstring_view className) {
                                            recording_);
 }
 
-void Replay(const Recording& recording, hostlib::Library& library) {
-  std::vector<ObjectPtr> objects(recording.objects);
-  for (const Step& step : recording.steps) {
+Replay::Replay(Recording recording)
+    : recording_(std::move(recording)), objects_(recording_.objects) {
+  for (const Step& step : recording_.steps) {
+    auto& lent = arguments_.emplace_back(step.arguments.begin(), step.arguments.end());
+    for (const auto& [argument, object] : step.objects) lent[argument] = objects_[object];
+  }
+}
+
+void Replay::Run(hostlib::Library& library) {
+  for (std::size_t i = 0; i < recording_.steps.size(); ++i) {
+    const Step& step = recording_.steps[i];
     switch (step.kind) {
       case Step::Kind::kCreate:
-        objects[step.made] = library.Create(step.className);
+        objects_[step.made] = library.Create(step.className);
         break;
       case Step::Kind::kInterface:
-        objects[step.made] = objects[step.object]->Interface(step.number);
+        objects_[step.made] = objects_[step.object]->Interface(step.number);
         break;
       case Step::Kind::kRelease:
-        objects[step.object] = nullptr;
+        objects_[step.object] = nullptr;
         break;
       case Step::Kind::kCall: {
-        const Value answer =
-            step.objects.empty()
-                ? objects[step.object]->Call(step.number, step.arguments)
-                : objects[step.object]->Call(step.number, WithObjects(step, objects));
-        if (step.made != Step::kNone) objects[step.made] = answer.AsObject();
+        const Value answer = objects_[step.object]->Call(step.number, arguments_[i]);
+        if (step.made != Step::kNone) objects_[step.made] = answer.AsObject();
         break;
       }
     }

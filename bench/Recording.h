@@ -42,7 +42,24 @@ class RecordingLibrary : public hostlib::Library {
   Recording& recording_;
 };
 
-/// Does with a library what was done with the recorded one, and nothing else.
-void Replay(const Recording& recording, hostlib::Library& library);
+/// A recording, ready to be replayed any number of times.
+class Replay {
+ public:
+  explicit Replay(Recording recording);
+  Replay(const Replay&) = delete;
+  Replay& operator=(const Replay&) = delete;
+
+  /// Does with a library what was done with the recorded one, and nothing else.
+  void Run(hostlib::Library& library);
+
+  const Recording& recording() const { return recording_; }
+
+ private:
+  const Recording recording_;
+  /// By their place; null before they are made and after they are released.
+  std::vector<hostlib::ObjectPtr> objects_;
+  /// What each step's call is given: the recording's values, and the objects above.
+  std::vector<std::vector<hostlib::ValueView>> arguments_;
+};
 
 }  // namespace bench

@@ -20,13 +20,9 @@ class Facade {
   /// Calls the operation on its interface. Throws LibraryError, located; also when the object has
   /// been released.
   template <typename... Values>
-  Value Call(const Operation& operation, Values&&... values) const {
-    const std::array<Value, sizeof...(values)> arguments{Value(std::forward<Values>(values))...};
+  Value Call(const Operation& operation, const Values&... values) const {
+    const std::array<ValueView, sizeof...(values)> arguments{ValueView(values)...};
     return CallWith(operation, arguments);
-  }
-  /// The same with a value as it stands.
-  Value Call(const Operation& operation, const Value& value) const {
-    return CallWith(operation, Arguments(&value, 1));
   }
 
   ObjectPtr object_;

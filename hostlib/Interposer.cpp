@@ -25,7 +25,7 @@ class InterposedObject : public Object {
     const CallInfo call{ClassName(), interfaceNumber_, slot,
                         FindOperation(ClassName(), interfaceNumber_, slot), arguments};
     return hook_.OnCall(call, [&] {
-      const bool handsObjects = std::ranges::any_of(arguments, &Value::IsObject);
+      const bool handsObjects = std::ranges::any_of(arguments, &ValueView::IsObject);
       const ObjectPtr target = isObject_ ? inner_ : inner_->Interface(interfaceNumber_);
       if (handsObjects) return Wrapped(target->Call(slot, Unwrapped(arguments)));
       return Wrapped(target->Call(slot, arguments));
@@ -38,13 +38,13 @@ class InterposedObject : public Object {
 
  private:
   // The library must get its own objects back, not ours.
-  static std::vector<Value> Unwrapped(const Arguments& arguments) {
-    std::vector<Value> inner(arguments.begin(), arguments.end());
-    for (Value& value : inner) {
+  static std::vector<ValueView> Unwrapped(const Arguments& arguments) {
+    std::vector<ValueView> inner(arguments.begin(), arguments.end());
+    for (ValueView& value : inner) {
       const auto* object = value.If<ObjectPtr>();
       if (object == nullptr) continue;
-      if (const auto ours = std::dynamic_pointer_cast<InterposedObject>(*object)) {
-        value = Value(ours->inner_);
+      if (const auto* ours = dynamic_cast<const InterposedObject*>(object->get())) {
+        value = ours->inner_;
       }
     }
     return inner;

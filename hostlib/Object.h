@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "common/RunTimeError.h"
-#include "hostlib/Value.h"
+#include "hostlib/ValueView.h"
 
 namespace hostlib {
 

@@ -12,8 +12,8 @@ class ParameterBag : public Facade {
   /// A bag that the library made.
   explicit ParameterBag(const Value& answer) : Facade(answer.AsObject()) {}
 
-  void SetValue(std::wstring_view key, Value value) {
-    Call(operations::parameter_bag::kSetValue, key, std::move(value));
+  void SetValue(std::wstring_view key, const ValueView& value) {
+    Call(operations::parameter_bag::kSetValue, key, value);
   }
   Value GetValue(std::wstring_view key) const {
     return Call(operations::parameter_bag::kGetValue, key);

@@ -24,10 +24,10 @@ class ScriptGlobal : public Facade {
   std::wstring TextToHostDate(std::wstring_view date) {
     return Use(operations::script_global::kTextToHostDate, date).Text();
   }
-  std::wstring ToText(const Value& value) {
+  std::wstring ToText(const ValueView& value) {
     return Use(operations::script_global::kToText, value).Text();
   }
-  bool ToBoolean(const Value& value) {
+  bool ToBoolean(const ValueView& value) {
     return Use(operations::script_global::kToBoolean, value).Flag();
   }
   /// True when the run must end at once.
@@ -48,9 +48,9 @@ class ScriptGlobal : public Facade {
 
  private:
   template <typename... Values>
-  Value Use(const Operation& operation, Values&&... values) {
+  Value Use(const Operation& operation, const Values&... values) {
     Create();
-    return Call(operation, std::forward<Values>(values)...);
+    return Call(operation, values...);
   }
 
   Library& library_;

@@ -1,9 +1,7 @@
 #pragma once
 
 #include <cstdint>
-#include <initializer_list>
 #include <memory>
-#include <span>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -12,6 +10,7 @@
 namespace hostlib {
 
 class Object;
+class ValueView;
 using ObjectPtr = std::shared_ptr<Object>;
 
 /// An optional argument that the caller leaves out.
@@ -53,6 +52,8 @@ class Value {
   Value(IntegerArray array) : content_(std::move(array)) {}
   Value(DoubleArray array) : content_(std::move(array)) {}
   Value(ObjectPtr object) : content_(std::move(object)) {}
+  /// A copy of what is lent.
+  explicit Value(const ValueView& lent);
   /// Any other pointer would silently become a boolean.
   template <typename T>
   Value(T*) = delete;
@@ -96,17 +97,5 @@ class Value {
  private:
   Content content_;
 };
-
-/// What a call is given, in the order of its arguments, until it returns: whoever keeps it longer
-/// copies the values. A list in braces is for a call only, never for a variable.
-class Arguments : public std::span<const Value> {
- public:
-  using span::span;
-  Arguments(std::initializer_list<Value> values) : span(values.begin(), values.size()) {}
-};
-
-/// The value as one line for transcripts and messages: texts quoted, booleans True and False,
-/// arrays in brackets, objects by class name.
-std::wstring Describe(const Value& value);
 
 }  // namespace hostlib

@@ -30,9 +30,9 @@ std::wstring CountText(const std::vector<int>& numbers) {
 }
 
 /// A text as it came, anything else in the words of a transcript.
-std::wstring AnswerText(const hostlib::Value& answer) {
-  const auto* text = answer.If<std::wstring>();
-  return text != nullptr ? *text : hostlib::Describe(answer);
+std::wstring AnswerText(const hostlib::ValueView& answer) {
+  const auto* text = answer.If<std::wstring_view>();
+  return text != nullptr ? std::wstring(*text) : hostlib::Describe(answer);
 }
 
 }  // namespace
@@ -106,7 +106,8 @@ void EntryLog::Follow(const hostlib::CallInfo& call, const hostlib::Value& answe
 void EntryLog::StartReading(const hostlib::CallInfo& call) {
   const AnswerReader* reader = FindAnswerReader(call.operation);
   if (reader == nullptr) return;
-  const auto* text = call.arguments.empty() ? nullptr : call.arguments.front().If<std::wstring>();
+  const auto* text =
+      call.arguments.empty() ? nullptr : call.arguments.front().If<std::wstring_view>();
   open_->reader = text != nullptr && *text == open_->answer ? reader : nullptr;
   open_->falseFlags.clear();
 }
@@ -114,7 +115,7 @@ void EntryLog::StartReading(const hostlib::CallInfo& call) {
 void EntryLog::ReadFlag(const hostlib::CallInfo& call, const hostlib::Value& answer) {
   const bool isRead =
       open_->reader != nullptr && Is(call.operation, hostlib::operations::parameter_bag::kGetValue);
-  const auto* key = isRead ? call.arguments.front().If<std::wstring>() : nullptr;
+  const auto* key = isRead ? call.arguments.front().If<std::wstring_view>() : nullptr;
   if (key == nullptr || answer.If<bool>() == nullptr) return;
   const auto& flags = open_->reader->flags;
   const auto* flag = std::ranges::find(flags, *key);

@@ -18,8 +18,8 @@ bool IsMessage(const CallInfo& call) {
 
 std::wstring TextAt(const CallInfo& call, std::size_t index) {
   const auto* text =
-      index < call.arguments.size() ? call.arguments[index].If<std::wstring>() : nullptr;
-  return text == nullptr ? std::wstring() : *text;
+      index < call.arguments.size() ? call.arguments[index].If<std::wstring_view>() : nullptr;
+  return text == nullptr ? std::wstring() : std::wstring(*text);
 }
 
 std::wstring NameOf(const CallInfo& call) {
@@ -109,7 +109,7 @@ void JournalHook::NoteOffice(const CallInfo& call, const Value& answer) {
   }
 }
 
-std::wstring JournalHook::Quoted(const Value& value) const {
+std::wstring JournalHook::Quoted(const hostlib::ValueView& value) const {
   return writer_.masking().Masked(hostlib::Describe(value));
 }
 

@@ -34,7 +34,7 @@ class JournalHook : public hostlib::CallHook {
   void Failed(const hostlib::CallInfo& call, const hostlib::LibraryError& error);
   void NoteOffice(const hostlib::CallInfo& call, const hostlib::Value& answer);
   /// A value from elsewhere as it may stand in a line of ours.
-  std::wstring Quoted(const hostlib::Value& value) const;
+  std::wstring Quoted(const hostlib::ValueView& value) const;
 
   Writer& writer_;
   const Clock& clock_;

@@ -42,7 +42,8 @@ std::wstring_view WithoutNumber(std::wstring_view text) {
 }
 
 std::wstring_view KeyOf(const hostlib::CallInfo& call) {
-  const auto* key = call.arguments.empty() ? nullptr : call.arguments.front().If<std::wstring>();
+  const auto* key =
+      call.arguments.empty() ? nullptr : call.arguments.front().If<std::wstring_view>();
   return key == nullptr ? std::wstring_view() : *key;
 }
 
@@ -59,7 +60,7 @@ void PaymentWatch::Before(const hostlib::CallInfo& call) {
   const bool sets = Is(call.operation, operations::parameter_bag::kSetValue);
   if (!sets || call.arguments.size() != 2) return;
   const std::wstring_view key = KeyOf(call);
-  if (key == kElementTextKey) elementText_ = call.arguments[1];
+  if (key == kElementTextKey) elementText_ = hostlib::Value(call.arguments[1]);
   if (IsPaymentKey(key)) Declare(call.arguments[1]);
 }
 
@@ -82,8 +83,8 @@ void PaymentWatch::Display(std::wstring_view answer) {
   }
 }
 
-void PaymentWatch::Declare(const hostlib::Value& value) {
-  if (const auto* text = value.If<std::wstring>()) masking_.Declare(*text);
+void PaymentWatch::Declare(const hostlib::ValueView& value) {
+  if (const auto* text = value.If<std::wstring_view>()) masking_.Declare(*text);
   if (const auto* texts = value.If<hostlib::TextArray>()) {
     for (const std::wstring& text : texts->items) masking_.Declare(text);
   }

@@ -19,7 +19,7 @@ class PaymentWatch {
   void After(const hostlib::CallInfo& call, const hostlib::Value& answer);
 
  private:
-  void Declare(const hostlib::Value& value);
+  void Declare(const hostlib::ValueView& value);
 
   Masking& masking_;
   /// The text that the request now being filled got last.

@@ -40,7 +40,7 @@ class ElementBuilders {
   std::wstring DivideRMString(std::wstring_view text);
 
  private:
-  using Inputs = std::initializer_list<std::pair<std::wstring_view, hostlib::Value>>;
+  using Inputs = std::initializer_list<std::pair<std::wstring_view, hostlib::ValueView>>;
 
   std::wstring Build(const hostlib::Operation& execute, Inputs inputs);
   std::wstring CreateTextElement(const hostlib::Operation& execute, std::wstring_view type,

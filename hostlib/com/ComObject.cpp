@@ -44,7 +44,8 @@ ObjectPtr ComObject::Interface(int number) {
 Value ComObject::CallMember(int slot, const Arguments& arguments, const Operation* operation) {
   const Member member = MemberFor(slot, arguments.size());
   std::vector<Variant> handed;
-  for (const Value& argument : arguments) handed.push_back(ToVariant(argument, shared_->library));
+  for (const ValueView& argument : arguments)
+    handed.push_back(ToVariant(argument, shared_->library));
   IDispatch& target = slot == kDefaultMember ? *shared_->object.Get() : Target();
   const Variant answer = InvokeMember(target, member, std::move(handed));
   return FromVariant(answer.get(), shared_->library,

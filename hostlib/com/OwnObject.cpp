@@ -105,7 +105,8 @@ void OwnObject::Answer(Object& object, DISPID member, const DISPPARAMS& paramete
   for (UINT i = parameters.cArgs; i > 0; --i) {
     arguments.push_back(FromVariant(parameters.rgvarg[i - 1], gate_, {}));
   }
-  Variant answer = ToVariant(object.Call(static_cast<int>(member), arguments), gate_);
+  const std::vector<ValueView> lent(arguments.begin(), arguments.end());
+  Variant answer = ToVariant(object.Call(static_cast<int>(member), lent), gate_);
   if (result == nullptr) return;
   *result = answer.get();
   VariantInit(&answer.get());

@@ -23,18 +23,18 @@ class Outgoing {
   Variant operator()(std::int16_t number) const { return Scalar(VT_I2, &VARIANT::iVal, number); }
   Variant operator()(std::int32_t number) const { return Scalar(VT_I4, &VARIANT::lVal, number); }
   Variant operator()(double number) const { return Scalar(VT_R8, &VARIANT::dblVal, number); }
-  Variant operator()(const std::wstring& text) const {
+  Variant operator()(std::wstring_view text) const {
     Bstr copy(text);
     if (copy.get() == nullptr) ThrowLinkError(E_OUTOFMEMORY);
     return Scalar(VT_BSTR, &VARIANT::bstrVal, copy.Release());
   }
   template <typename T>
-  Variant operator()(const Array<T>& array) const {
-    return ArrayVariant(array);
+  Variant operator()(const Array<T>* array) const {
+    return ArrayVariant(*array);
   }
-  Variant operator()(const ObjectPtr& object) const {
+  Variant operator()(const ObjectPtr* object) const {
     ComPtr<IDispatch> outward;
-    if (object != nullptr) outward = gate_.Outward(object);
+    if (*object != nullptr) outward = gate_.Outward(*object);
     return Scalar(VT_DISPATCH, &VARIANT::pdispVal, outward.Detach());
   }
 
@@ -71,7 +71,7 @@ Value ObjectValue(IUnknown* object, ObjectGate& gate, std::wstring_view classNam
 
 }  // namespace
 
-Variant ToVariant(const Value& value, ObjectGate& gate) {
+Variant ToVariant(const ValueView& value, ObjectGate& gate) {
   return std::visit(Outgoing(gate), value.content());
 }
 

@@ -2,7 +2,7 @@
 
 #include <wrl/client.h>
 
-#include "hostlib/Value.h"
+#include "hostlib/ValueView.h"
 #include "hostlib/com/Owners.h"
 
 namespace hostlib::com {
@@ -18,7 +18,7 @@ class ObjectGate {
 };
 
 /// The value as a variant.
-Variant ToVariant(const Value& value, ObjectGate& gate);
+Variant ToVariant(const ValueView& value, ObjectGate& gate);
 
 /// The variant as a value, by reference or not. Throws LibraryError for what no value can hold.
 Value FromVariant(const VARIANT& variant, ObjectGate& gate, std::wstring_view className);

@@ -6,9 +6,10 @@ namespace practice {
 namespace {
 
 using hostlib::Value;
+using hostlib::ValueView;
 
 // Programs attach with what they have: objects that answer nothing are no reason to refuse them.
-Value Property(const Value& object, int slot) {
+Value Property(const ValueView& object, int slot) {
   const auto* asked = object.If<hostlib::ObjectPtr>();
   if (asked == nullptr || *asked == nullptr) return {};
   try {
@@ -30,7 +31,7 @@ std::int32_t NumberIn(const Value& value) {
 
 }  // namespace
 
-AttachedProgram ReadAttachedProgram(const Value& progressForm, const Value& application) {
+AttachedProgram ReadAttachedProgram(const ValueView& progressForm, const ValueView& application) {
   return {TextIn(Property(progressForm, 7)), TextIn(Property(progressForm, 8)),
           TextIn(Property(application, 7)), TextIn(Property(application, 8)),
           NumberIn(Property(application, 9))};

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-#include "hostlib/Value.h"
+#include "hostlib/ValueView.h"
 
 namespace practice {
 
@@ -19,7 +19,7 @@ struct AttachedProgram {
   bool operator==(const AttachedProgram&) const = default;
 };
 
-AttachedProgram ReadAttachedProgram(const hostlib::Value& progressForm,
-                                    const hostlib::Value& application);
+AttachedProgram ReadAttachedProgram(const hostlib::ValueView& progressForm,
+                                    const hostlib::ValueView& application);
 
 }  // namespace practice

@@ -9,7 +9,7 @@ ParameterBagObject::ParameterBagObject(LastError* lastError)
     : PracticeObject(hostlib::operations::kBag, lastError) {
   using namespace hostlib::operations::parameter_bag;
   On(kSetValue, [this](const Arguments& arguments) {
-    Set(arguments[0].Text(), arguments[1]);
+    Set(arguments[0].Text(), Value(arguments[1]));
     return Value();
   });
   On(kGetValue, [this](const Arguments& arguments) { return Get(arguments[0].Text()); });
@@ -29,7 +29,7 @@ ListObject::ListObject(Value array, LastError* lastError)
   OnSlot(hostlib::kDefaultMember, [array = std::move(array)](const Arguments&) { return array; });
 }
 
-ParameterBagObject& BagIn(const Value& argument) {
+ParameterBagObject& BagIn(const hostlib::ValueView& argument) {
   const auto bag = std::dynamic_pointer_cast<ParameterBagObject>(argument.AsObject());
   if (bag == nullptr) {
     throw hostlib::LibraryError(static_cast<std::int32_t>(0x80020005), L"Practice library",

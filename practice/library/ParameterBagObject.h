@@ -27,6 +27,6 @@ class ListObject : public PracticeObject {
 };
 
 /// The bag in an argument. Throws LibraryError when it is none.
-ParameterBagObject& BagIn(const hostlib::Value& argument);
+ParameterBagObject& BagIn(const hostlib::ValueView& argument);
 
 }  // namespace practice

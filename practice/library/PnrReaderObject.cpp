@@ -103,7 +103,7 @@ class PnrReaderObject : public PracticeObject {
   }
 
   // A search gives a bag of its own; the typed read of one element fills the bag it was given.
-  Value Find(const Value& argument) {
+  Value Find(const hostlib::ValueView& argument) {
     ParameterBagObject& bag = BagIn(argument);
     const std::wstring type = bag.Get(L"strKeyPNRElement").Text();
     if (!bag.Has(L"intKeyIndex")) return Search(bag, type);
@@ -116,7 +116,7 @@ class PnrReaderObject : public PracticeObject {
     } else {
       RaiseFailure(kNoElement, L"Elements of type " + type + L" can not be read so");
     }
-    return argument;
+    return Value(argument);
   }
 
   // With ALL the search text is an element code, else a part of the text of such elements.

@@ -10,7 +10,7 @@ namespace practice {
 namespace {
 
 using hostlib::Arguments;
-using hostlib::Value;
+using hostlib::ValueView;
 using std::chrono::day;
 using std::chrono::month;
 using std::chrono::year;
@@ -62,20 +62,20 @@ std::wstring TextToHostDate(const platform::Platform& platform, const std::wstri
          TwoDigits(static_cast<unsigned>(static_cast<int>(date->year())) % 100);
 }
 
-std::wstring ToText(const Value& value) {
+std::wstring ToText(const ValueView& value) {
   if (value.IsEmpty()) return {};
   if (const auto* flag = value.If<bool>()) return *flag ? L"True" : L"False";
   if (value.IsObject() || value.IsArray() || value.IsMissing()) {
     throw hostlib::LibraryError(kNoText, L"Practice library",
                                 std::wstring(value.Kind()) + L" is no text");
   }
-  if (const auto* text = value.If<std::wstring>()) return *text;
+  if (const auto* text = value.If<std::wstring_view>()) return std::wstring(*text);
   if (const auto* number = value.If<double>()) return common::HostNumberText(*number);
   return std::to_wstring(value.Long());
 }
 
-bool ToBoolean(const Value& value) {
-  if (const auto* text = value.If<std::wstring>()) return *text == L"True";
+bool ToBoolean(const ValueView& value) {
+  if (const auto* text = value.If<std::wstring_view>()) return *text == L"True";
   if (value.If<std::int16_t>() != nullptr || value.If<std::int32_t>() != nullptr) {
     return value.Long() != 0;
   }

@@ -37,7 +37,7 @@ struct WaitBench : support::RoomBench, ui::WindowlessView {
       bag.Set(L"strKeyElementNr", segment.number);
       bag.Set(L"strKeyMCOFATicketNbr", segment.fa);
       bag.Set(L"strKeyElement", segment.element);
-      return arguments[0];
+      return hostlib::Value(arguments[0]);
     });
   }
 

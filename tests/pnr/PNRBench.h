@@ -45,12 +45,12 @@ struct PNRBench : support::RoomBench {
   std::vector<hostlib::TextArray> searches;
 
  private:
-  static void Fill(const hostlib::Value& argument, const std::vector<Row>& rows) {
+  static void Fill(const hostlib::ValueView& argument, const std::vector<Row>& rows) {
     practice::ParameterBagObject& bag = practice::BagIn(argument);
     const std::int16_t index = bag.Get(L"intKeyIndex").Integer();
     for (const auto& [key, value] : rows.at(static_cast<std::size_t>(index))) bag.Set(key, value);
   }
-  hostlib::Value Find(const hostlib::Value& argument) {
+  hostlib::Value Find(const hostlib::ValueView& argument) {
     practice::ParameterBagObject& bag = practice::BagIn(argument);
     const std::wstring element = bag.Get(L"strKeyPNRElement").Text();
     if (!bag.Has(L"strKeyFind()")) {

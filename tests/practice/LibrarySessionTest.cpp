@@ -14,8 +14,9 @@ TEST_F(LibraryObjects, EveryOperationOfTheSeamIsThere) {
   for (const hostlib::Operation& operation : hostlib::AllOperations()) {
     if (operation.object == hostlib::operations::kList) continue;
     const auto object = bench.library.Create(operation.object);
-    std::vector<Value> arguments(static_cast<std::size_t>(operation.arguments),
-                                 Value(bench.library.Create(hostlib::operations::kBag)));
+    const auto bag = bench.library.Create(hostlib::operations::kBag);
+    const std::vector<hostlib::ValueView> arguments(static_cast<std::size_t>(operation.arguments),
+                                                    bag);
     try {
       object->Interface(operation.interfaceNumber)->Call(operation.slot, arguments);
     } catch (const LibraryError& error) {

@@ -31,8 +31,8 @@ class SpoiltOffice : public hostlib::CallHook {
   explicit SpoiltOffice(std::function<hostlib::Value()> answer) : answer_(std::move(answer)) {}
   hostlib::Value OnCall(const hostlib::CallInfo& call,
                         const std::function<hostlib::Value()>& proceed) override {
-    const bool isIt = call.object == L"ProfileStore" && call.arguments.size() > 2 &&
-                      call.arguments[2] == hostlib::Value(L"OfficeIDSK");
+    const bool isIt = Is(call.operation, hostlib::operations::profile_store::kReadValue) &&
+                      call.arguments[2].Text() == L"OfficeIDSK";
     return isIt ? answer_() : proceed();
   }
 

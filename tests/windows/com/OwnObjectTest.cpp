@@ -17,7 +17,7 @@ class Own : public hostlib::Object {
   std::wstring_view ClassName() const override { return className_; }
   Value Call(int slot, const Arguments& arguments) override {
     if (slot == 7) return Value(L"the caption");
-    if (slot == 8) return arguments.empty() ? Value(L"") : arguments.front();
+    if (slot == 8) return arguments.empty() ? Value(L"") : Value(arguments.front());
     if (slot == 9) throw std::bad_alloc();
     if (slot == 10) throw LibraryError(42, L"program", L"not now");
     throw LibraryError(DISP_E_MEMBERNOTFOUND, L"program", L"Member not found");

@@ -169,7 +169,7 @@ class Work {
                 const Arguments& more, const std::vector<const wchar_t*>& keys) {
     Mark(operation);
     const Value bag = Bag(library_, in);
-    std::vector<Value> arguments = {bag};
+    std::vector<hostlib::ValueView> arguments = {bag};
     arguments.insert(arguments.end(), more.begin(), more.end());
     // What comes back may be the bag itself.
     Answer(library_, operation, arguments);
