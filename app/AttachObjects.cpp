@@ -15,8 +15,9 @@ constexpr auto kMemberNotFound = static_cast<std::int32_t>(0x80020003);
 class PropertyObject : public hostlib::Object {
  public:
   using Property = std::function<hostlib::Value()>;
-  PropertyObject(std::wstring className, std::vector<Property> properties)
-      : className_(std::move(className)), properties_(std::move(properties)) {}
+  /// The name outlasts the object, as what its properties read does.
+  PropertyObject(std::wstring_view className, std::vector<Property> properties)
+      : className_(className), properties_(std::move(properties)) {}
 
   std::wstring_view ClassName() const override { return className_; }
   hostlib::Value Call(int slot, const hostlib::Arguments&) override {
@@ -28,10 +29,10 @@ class PropertyObject : public hostlib::Object {
 
  private:
   [[noreturn]] void Missing() const {
-    throw hostlib::LibraryError(kMemberNotFound, className_, L"Member not found");
+    throw hostlib::LibraryError(kMemberNotFound, std::wstring(className_), L"Member not found");
   }
 
-  std::wstring className_;
+  std::wstring_view className_;
   std::vector<Property> properties_;
 };
 

@@ -9,7 +9,6 @@
 #include "fares/Totals.h"
 #include "mco/TSMList.h"
 #include "mco/WaitForMCO.h"
-#include "mco/frmSelectMCO.h"
 #include "mco/frmWaitForMCO.h"
 #include "pnr/GetPTAPNRinfo.h"
 #include "pnr/MCOSegmentReader.h"
@@ -23,7 +22,6 @@
 #include "tst/TQTSender.h"
 #include "tst/TSTDetailReader.h"
 #include "tst/TSTUpdater.h"
-#include "tst/frmSelectTST.h"
 #include "ui/frmPTA.h"
 #include "ui/frmWorking.h"
 #include "updates/BackOfficeRemark.h"
@@ -54,11 +52,9 @@ struct Rooms {
   pnr::PNRChecks checks;
   pnr::MCOSegmentReader mcoSegment;
 
-  mco::frmSelectMCO frmSelectMCO;
   mco::TSMList tsmList;
   mco::WaitForMCO waitForMCO;
 
-  tst::frmSelectTST frmSelectTST;
   tst::TQTSender tqtSender;
   tst::TSTDetailReader tstDetails;
   tst::SendTSTTrans tsts;

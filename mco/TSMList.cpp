@@ -5,6 +5,7 @@
 #include "common/Numbers.h"
 #include "common/RunTimeError.h"
 #include "hostlib/Requests.h"
+#include "mco/frmSelectMCO.h"
 
 namespace mco {
 
@@ -29,13 +30,12 @@ std::vector<T> Rows(const hostlib::Array<T>& list, std::int16_t count) {
 
 TSMList::TSMList(hostlib::Library& library, hostlib::ScriptGlobal& global,
                  hostlib::TerminalSession& session, errors::ErrorHandler& errors,
-                 ui::Desktop& desktop, frmSelectMCO& form, TSMInfo& tsm, pnr::MCOInfo& mco)
+                 ui::Desktop& desktop, TSMInfo& tsm, pnr::MCOInfo& mco)
     : library_(library),
       global_(global),
       session_(session),
       errors_(errors),
       desktop_(desktop),
-      form_(form),
       tsm_(tsm),
       mco_(mco) {}
 
@@ -148,13 +148,14 @@ void TSMList::ChooseFromList() {
 }
 
 void TSMList::LetAgentChoose() {
-  form_.Populate(tsm_);
+  frmSelectMCO form;
+  form.Populate(tsm_);
   session_.LoadPNR();
-  desktop_.ShowModal(form_);
-  if (!form_.blnOK) throw common::RunTimeError(L"No MCO was chosen");
+  desktop_.ShowModal(form);
+  if (!form.blnOK) throw common::RunTimeError(L"No MCO was chosen");
   // The place in the list is the place among the PNR's MCO segments: the host keeps both in the
   // same order.
-  Choose(common::ToInteger(form_.strSelectedMCO), form_.intSelectedIndex);
+  Choose(common::ToInteger(form.strSelectedMCO), form.intSelectedIndex);
 }
 
 void TSMList::Choose(std::int16_t number, std::int16_t index) {

@@ -7,7 +7,6 @@
 #include "hostlib/ScriptGlobal.h"
 #include "hostlib/TerminalSession.h"
 #include "mco/TSMInfo.h"
-#include "mco/frmSelectMCO.h"
 #include "pnr/MCOInfo.h"
 #include "ui/controls/Desktop.h"
 
@@ -18,7 +17,7 @@ class TSMList {
  public:
   TSMList(hostlib::Library& library, hostlib::ScriptGlobal& global,
           hostlib::TerminalSession& session, errors::ErrorHandler& errors, ui::Desktop& desktop,
-          frmSelectMCO& form, TSMInfo& tsm, pnr::MCOInfo& mco);
+          TSMInfo& tsm, pnr::MCOInfo& mco);
 
   /// Displays one TSM, or with 0 the whole list, and keeps what is shown. False, after a report,
   /// when the display could not be read or shows a TSM without an MCO fee.
@@ -44,7 +43,6 @@ class TSMList {
   hostlib::TerminalSession& session_;
   errors::ErrorHandler& errors_;
   ui::Desktop& desktop_;
-  frmSelectMCO& form_;
   TSMInfo& tsm_;
   pnr::MCOInfo& mco_;
 };

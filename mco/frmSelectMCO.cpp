@@ -18,8 +18,6 @@ void frmSelectMCO::Populate(const TSMInfo& tsm) {
   const auto segments = tsm.GetArrStrL();
   const auto fops = tsm.GetArrStrFOP();
   const auto persons = tsm.GetArrIntP();
-  ForgetChoice();
-  lstMCO.Clear();
   for (std::int16_t i = 0; i < tsm.intNoTSM; ++i) {
     const auto at = static_cast<std::size_t>(i);
     addMCOtoList(common::NumberText(numbers.at(at)), segments.at(at),
@@ -35,15 +33,6 @@ void frmSelectMCO::addMCOtoList(std::wstring_view tsm, std::wstring_view segment
 }
 
 void frmSelectMCO::OnCloseBox() { Unload(); }
-
-void frmSelectMCO::ForgetChoice() {
-  blnOK = false;
-  strSelectedMCO.clear();
-  strSelectedFOP.clear();
-  strSelectedPerson.clear();
-  strSelectedSegment.clear();
-  intSelectedIndex = 0;
-}
 
 void frmSelectMCO::TakeChoice() {
   const int index = lstMCO.ListIndex();

@@ -30,7 +30,7 @@ class frmSelectMCO : public ui::Form {
   std::wstring strSelectedSegment;
   std::int16_t intSelectedIndex = 0;  ///< 0-based
 
-  /// One line for each TSM, the first one selected; an earlier choice is forgotten.
+  /// One line for each TSM, the first one selected.
   void Populate(const TSMInfo& tsm);
   /// Adds one line. Throws RunTimeError when a field is longer than its column.
   void addMCOtoList(std::wstring_view tsm, std::wstring_view segments, std::wstring_view person,
@@ -39,7 +39,6 @@ class frmSelectMCO : public ui::Form {
   void OnCloseBox() override;
 
  private:
-  void ForgetChoice();
   void TakeChoice();
 };
 

@@ -4,6 +4,7 @@
 
 #include "common/ConstDefintions.h"
 #include "common/Text.h"
+#include "tst/frmSelectTST.h"
 
 namespace tst {
 
@@ -14,7 +15,7 @@ namespace procedures = errors::procedures;
 SendTSTTrans::SendTSTTrans(hostlib::Library& library, hostlib::TerminalSession& session,
                            hostlib::ScriptGlobal& global, errors::ErrorHandler& errors,
                            const errors::StopFlag& stop, ui::Desktop& desktop,
-                           ui::frmWorking& working, frmSelectTST& selection, TSTRecords records,
+                           common::RunEnd& runEnd, ui::frmWorking& working, TSTRecords records,
                            TSTDetailReader& details, fares::Totals& sums)
     : library_(library),
       session_(session),
@@ -22,8 +23,8 @@ SendTSTTrans::SendTSTTrans(hostlib::Library& library, hostlib::TerminalSession& 
       errors_(errors),
       stop_(stop),
       desktop_(desktop),
+      runEnd_(runEnd),
       working_(working),
-      selection_(selection),
       records_(records),
       details_(details),
       sums_(sums) {}
@@ -53,6 +54,7 @@ void SendTSTTrans::Reset() {
   records_.mco.blnInf = false;
   lastTransaction_.clear();
   currentResponse_.clear();
+  selectedTSTArray_.clear();
   records_.pnr.blnFVExists = false;
   records_.pnr.blnFMExists = false;
   records_.tsts = TSTCollection();
@@ -93,7 +95,6 @@ void SendTSTTrans::ReadPickedTSTs(const TSTList& list) {
   records_.mco.blnMultTST = true;
   if (list.count < 2) return;
   SelectTSTFromList(list.segments, list.tstNumbers, list.persons, list.fops);
-  selectedTSTArray_ = selection_.getStrArraySelectedTSTs();
   for (int row = 1; row <= list.segments.UpperBound() && !stop_.isSet; ++row) {
     const std::wstring& tstNumber = RowOf(list.tstNumbers, row);
     if (IsPicked(tstNumber)) ReadPickedTST(tstNumber, RowOf(list.segments, row));
@@ -136,13 +137,14 @@ void SendTSTTrans::SelectTSTFromList(const hostlib::TextArray& segments,
                                      const hostlib::TextArray& persons,
                                      const hostlib::TextArray& fops) {
   errors_.Run(procedures::kSelectTST, [&] {
-    selection_.Reset();
+    frmSelectTST form(desktop_, runEnd_);
     for (int row = 1; row <= segments.UpperBound(); ++row) {
-      selection_.addTSTtoList(RowOf(tstNumbers, row), RowOf(segments, row), RowOf(persons, row),
-                              RowOf(fops, row));
+      form.addTSTtoList(RowOf(tstNumbers, row), RowOf(segments, row), RowOf(persons, row),
+                        RowOf(fops, row));
     }
-    desktop_.ShowModal(selection_);
-    selectedTSTs_ = selection_.blnOK ? selection_.getStrSelectedTSTs() : std::wstring();
+    desktop_.ShowModal(form);
+    selectedTSTs_ = form.blnOK ? form.getStrSelectedTSTs() : std::wstring();
+    selectedTSTArray_ = form.getStrArraySelectedTSTs();
     working_.SetCaption(common::kTitle);
     desktop_.Show(working_);
   });

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "common/EndOfRun.h"
 #include "errors/ErrorHandler.h"
 #include "fares/Totals.h"
 #include "hostlib/Requests.h"
@@ -11,7 +12,6 @@
 #include "tst/TSTDetailReader.h"
 #include "tst/TSTList.h"
 #include "tst/TSTRecords.h"
-#include "tst/frmSelectTST.h"
 #include "ui/controls/Desktop.h"
 #include "ui/frmWorking.h"
 
@@ -23,8 +23,8 @@ class SendTSTTrans {
  public:
   SendTSTTrans(hostlib::Library& library, hostlib::TerminalSession& session,
                hostlib::ScriptGlobal& global, errors::ErrorHandler& errors,
-               const errors::StopFlag& stop, ui::Desktop& desktop, ui::frmWorking& working,
-               frmSelectTST& selection, TSTRecords records, TSTDetailReader& details,
+               const errors::StopFlag& stop, ui::Desktop& desktop, common::RunEnd& runEnd,
+               ui::frmWorking& working, TSTRecords records, TSTDetailReader& details,
                fares::Totals& sums);
 
   void ReadTSTList();
@@ -57,8 +57,8 @@ class SendTSTTrans {
   errors::ErrorHandler& errors_;
   const errors::StopFlag& stop_;
   ui::Desktop& desktop_;
+  common::RunEnd& runEnd_;
   ui::frmWorking& working_;
-  frmSelectTST& selection_;
   TSTRecords records_;
   TSTDetailReader& details_;
   fares::Totals& sums_;

@@ -17,11 +17,6 @@ frmSelectTST::frmSelectTST(common::MessageBoxes& boxes, common::RunEnd& runEnd)
   cmdCancel.onClick = [this] { OnCloseBox(); };
 }
 
-void frmSelectTST::Reset() {
-  lstTST.Clear();
-  ForgetChoice();
-}
-
 void frmSelectTST::ForgetChoice() {
   blnOK = false;
   strTSTNumbers.clear();

@@ -33,8 +33,6 @@ class frmSelectTST : public ui::Form {
   std::vector<std::wstring> strFOPs;
   std::vector<std::wstring> strSegments;
 
-  /// An empty list, nothing chosen.
-  void Reset();
   /// A field wider than its column is a RunTimeError.
   void addTSTtoList(std::wstring_view tstNumber, std::wstring_view segment,
                     std::wstring_view persons, std::wstring_view fop);

@@ -31,6 +31,7 @@ class ScriptedAgent : public ui::WindowlessDesktop {
   void Run() override;
   int ShowBox(std::wstring_view text, int style, std::wstring_view title) override;
   void FormClosed(ui::Form& form) override;
+  void FormGone(ui::Form& form) override { std::erase(visible_, &form); }
 
  private:
   void Interact(ui::Form& form);

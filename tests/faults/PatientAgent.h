@@ -42,6 +42,7 @@ class PatientAgent : public ui::WindowlessDesktop {
   void Run() override;
   int ShowBox(std::wstring_view text, int style, std::wstring_view title) override;
   void FormClosed(ui::Form& form) override;
+  void FormGone(ui::Form& form) override { std::erase(visible_, &form); }
 
  private:
   using Lines = std::vector<practice::AgentLine>;

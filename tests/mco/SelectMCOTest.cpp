@@ -97,24 +97,27 @@ TEST(SelectMCO, TheSecondOfThreeGivesItsNumberAndItsPlaceInTheList) {
   EXPECT_EQ(bench.info.dblMCOFee, 300);
 }
 
-TEST(SelectMCO, ThePNRIsLoadedAgainBetweenFillingTheDialogAndShowingIt) {
+TEST(SelectMCO, ThePNRIsLoadedAgainJustBeforeTheDialogIsShown) {
   TSMBench bench;
   bench.displays = {bench.ListOfThree(), bench.OneTSM(300.0)};
-  int linesAtLoad = -1;
   std::wstring lastBeforeShown;
-  bench.scripted.On(terminal_session::kLoadPNR, [&](const hostlib::Arguments&) {
-    linesAtLoad = bench.form.lstMCO.Count();
-    EXPECT_FALSE(bench.form.IsVisible());
-    return hostlib::Value();
-  });
   bench.AgentChooses(0);
   bench.desktop.inModal = [&, choose = bench.desktop.inModal](ui::Form& form) {
     lastBeforeShown = bench.recorder.lines().back();
     choose(form);
   };
   bench.list.SelectMCO();
-  EXPECT_EQ(linesAtLoad, 3);
   EXPECT_EQ(lastBeforeShown, L"TerminalSession.1.9 LoadPNR()");
+}
+
+TEST(SelectMCO, TheDialogIsFilledBeforeThePNRIsLoadedAgain) {
+  TSMBench bench;
+  bench.displays = {bench.List({{4, 1, L"1-2", std::wstring(60, L'X')}, {7, 2, L"3", L"CASH"}})};
+  EXPECT_FALSE(bench.list.SelectMCO());
+  EXPECT_EQ(bench.Reports(), Lines{Box110(L"Error Error in list of TSM's!")});
+  for (const std::wstring& line : bench.recorder.lines()) {
+    EXPECT_FALSE(line.starts_with(L"TerminalSession.1.9")) << testing::PrintToString(line);
+  }
 }
 
 TEST(SelectMCO, CancelIsTheHandlersBoxAndNothingIsChosen) {

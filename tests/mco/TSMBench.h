@@ -1,6 +1,7 @@
 #pragma once
 
 #include "mco/TSMList.h"
+#include "mco/frmSelectMCO.h"
 #include "tests/mco/Lines.h"
 #include "tests/support/RoomBench.h"
 
@@ -101,10 +102,9 @@ struct TSMBench : support::RoomBench {
   }
 
   std::deque<hostlib::Value> displays;
-  frmSelectMCO form;
   TSMInfo tsm;
   pnr::MCOInfo info;
-  TSMList list{library, global, session, errors, desktop, form, tsm, info};
+  TSMList list{library, global, session, errors, desktop, tsm, info};
 
  private:
   int entries_ = 0;

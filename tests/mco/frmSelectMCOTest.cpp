@@ -110,15 +110,6 @@ TEST(FrmSelectMCO, PopulateSelectsTheFirstLine) {
   EXPECT_FALSE(form.blnOK);
 }
 
-TEST(FrmSelectMCO, PopulateFillsAListThatWasFilledBeforeAfresh) {
-  frmSelectMCO form;
-  form.Populate(TwoTSMs());
-  form.lstMCO.SelectionChanged({false, true});
-  form.Populate(TwoTSMs());
-  EXPECT_EQ(form.lstMCO.Count(), 2);
-  EXPECT_EQ(form.lstMCO.ListIndex(), 0);
-}
-
 TEST(FrmSelectMCO, OKReadsTheSelectedLineBackTrimmed) {
   frmSelectMCO form;
   form.Populate(TwoTSMs());
@@ -188,16 +179,6 @@ TEST(FrmSelectMCO, TheCloseBoxClosesWithoutAChoice) {
   form.OnCloseBox();
   EXPECT_FALSE(form.IsLoaded());
   EXPECT_FALSE(form.blnOK);
-}
-
-TEST(FrmSelectMCO, PopulateForgetsAnEarlierChoice) {
-  Chosen chosen(L"7", L"3-4", L"2", L"CASH");
-  chosen.form.Populate(TwoTSMs());
-  EXPECT_FALSE(chosen.form.blnOK);
-  EXPECT_EQ(chosen.form.strSelectedMCO, L"");
-  EXPECT_EQ(chosen.form.strSelectedPerson, L"");
-  EXPECT_EQ(chosen.form.strSelectedFOP, L"");
-  EXPECT_EQ(chosen.form.strSelectedSegment, L"");
 }
 
 }  // namespace

@@ -118,7 +118,9 @@ TEST(PickedTSTs, ATSTThatIsListedTwiceCannotBeFiledTwice) {
 TEST(PickedTSTs, CancelInTheDialogEndsTheRun) {
   SelectionBench bench;
   bench.HasList({{.number = L"1"}, {.number = L"2"}});
-  bench.desktop.inModal = [&](ui::Form&) { bench.selection.cmdCancel.Clicked(); };
+  bench.desktop.inModal = [](ui::Form& form) {
+    static_cast<frmSelectTST&>(form).cmdCancel.Clicked();
+  };
   EXPECT_THROW(bench.room.ReadTSTList(), support::EndedByEndScript);
   EXPECT_EQ(bench.Sent(), kListSent);
   EXPECT_EQ(bench.ReportedBoxes(), Lines{});

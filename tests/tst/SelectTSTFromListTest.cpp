@@ -21,8 +21,10 @@ struct ThreeRows : SelectionBench {
 TEST(SelectTSTFromList, TheRowsStandInTheDialogWhenItOpens) {
   ThreeRows bench;
   Lines texts;
-  bench.desktop.inModal = [&](ui::Form&) {
-    for (const auto& item : bench.selection.lstTST.Items()) texts.push_back(item.text);
+  bench.desktop.inModal = [&](ui::Form& form) {
+    for (const auto& item : static_cast<frmSelectTST&>(form).lstTST.Items()) {
+      texts.push_back(item.text);
+    }
   };
   bench.Select();
   EXPECT_EQ(texts,
@@ -35,15 +37,17 @@ TEST(SelectTSTFromList, ThePickedNumbersAreKept) {
   bench.AgentPicks({0, 2});
   bench.Select();
   EXPECT_EQ(bench.room.SelectedTSTNumbers(), L"1,3");
+  EXPECT_EQ(bench.room.SelectedTSTArray(), (Lines{L"1", L"3"}));
 }
 
 TEST(SelectTSTFromList, AnInvalidChoiceCanBeMadeGood) {
   ThreeRows bench;
-  bench.desktop.inModal = [&](ui::Form&) {
-    bench.selection.lstTST.SelectionChanged({true, true, false});
-    bench.selection.cmdOK.Clicked();
-    bench.selection.lstTST.SelectionChanged({true, false, false});
-    bench.selection.cmdOK.Clicked();
+  bench.desktop.inModal = [](ui::Form& form) {
+    auto& selection = static_cast<frmSelectTST&>(form);
+    selection.lstTST.SelectionChanged({true, true, false});
+    selection.cmdOK.Clicked();
+    selection.lstTST.SelectionChanged({true, false, false});
+    selection.cmdOK.Clicked();
   };
   bench.Select();
   EXPECT_EQ(bench.room.SelectedTSTNumbers(), L"1");
@@ -58,6 +62,7 @@ TEST(SelectTSTFromList, WithoutAnOKNothingIsSelected) {
   bench.desktop.inModal = nullptr;
   bench.Select();
   EXPECT_EQ(bench.room.SelectedTSTNumbers(), L"");
+  EXPECT_EQ(bench.room.SelectedTSTArray(), Lines());
 }
 
 TEST(SelectTSTFromList, AnInvalidChoiceAloneSelectsNothing) {

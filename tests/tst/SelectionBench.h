@@ -2,6 +2,7 @@
 
 #include "tests/tst/TSTBench.h"
 #include "tst/SendTSTTrans.h"
+#include "tst/frmSelectTST.h"
 
 namespace tst {
 
@@ -9,7 +10,8 @@ namespace tst {
 struct SelectionBench : TSTBench {
   /// The agent selects these rows, which count from 0, and presses OK.
   void AgentPicks(const std::vector<int>& rows) {
-    desktop.inModal = [this, rows](ui::Form&) {
+    desktop.inModal = [rows](ui::Form& form) {
+      auto& selection = static_cast<frmSelectTST&>(form);
       for (const int row : rows) selection.lstTST.Select(row);
       selection.cmdOK.Clicked();
     };
@@ -29,11 +31,10 @@ struct SelectionBench : TSTBench {
   }
 
   ui::frmWorking working;
-  frmSelectTST selection{desktop, runEnd};
   TSTDetailReader details{library, global, errors,  stop,
                           desktop, runEnd, records, {readers, amounts, sums}};
-  SendTSTTrans room{library, session,   global,  errors,  stop, desktop,
-                    working, selection, records, details, sums};
+  SendTSTTrans room{library, session, global,  errors,  stop, desktop,
+                    runEnd,  working, records, details, sums};
 };
 
 }  // namespace tst

@@ -93,13 +93,12 @@ void FormWindow::FocusAsked(Control& control) {
 
 void FormWindow::FormClosed(Form&) { Close(); }
 
-void FormWindow::FormGone(Form&) {
-  for (const auto& [control, native] : controls_) native->Forget();
-  Close();
-}
+void FormWindow::FormGone(Form&) { Close(); }
 
 void FormWindow::Close() {
   if (form_ == nullptr) return;
+  // The form may go before this window does.
+  for (const auto& [control, native] : controls_) native->Forget();
   form_->Detach();
   form_ = nullptr;
   // While its owner is still off, hiding the window would hand the focus to another program.

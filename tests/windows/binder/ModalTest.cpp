@@ -72,6 +72,38 @@ TEST_F(ModalWindows, TheEndOfTheRunComesOutThroughTwoModalForms) {
   }
 }
 
+TEST_F(ModalWindows, AFormThatHasClosedHearsNoMoreOfItsWindow) {
+  HWND field = nullptr;
+  form.whenKeyDown = [&](const Control&, int) { Log(L"key"); };
+  form.cmdOK.onClick = [&] {
+    SendMessageW(field, WM_KEYDOWN, VK_F1, 0);
+    form.Hide();
+    Log(L"hidden");
+    SendMessageW(field, WM_KEYDOWN, VK_F1, 0);
+  };
+  Run([&](HWND window) {
+    field = Item(window, ID_txtPWCT);
+    driver::Click(Item(window, ID_cmdOK));
+    WaitForTheEnd();
+  });
+  EXPECT_EQ(log(), (Lines{L"key", L"hidden"}));
+}
+
+TEST_F(ModalWindows, AFormOfAHandlersOwnCanBeLeftByTheEndOfTheRun) {
+  form.cmdOK.onClick = [&] {
+    frmInner own;
+    own.btnOK.onClick = [] { throw common::EndOfRun(); };
+    desktop.ShowModal(own);
+  };
+  const auto toItsButton = [&](HWND window) {
+    driver::Click(Item(window, ID_cmdOK));
+    driver::Press(Item(WindowNamed(L"The inner form"), ID_txtOPText), VK_RETURN);
+    WaitForTheEnd();
+  };
+  EXPECT_THROW(Run(toItsButton), common::EndOfRun);
+  EXPECT_FALSE(driver::IsThere(L"The inner form"));
+}
+
 TEST_F(ModalWindows, AFailureInATimerComesOutThroughAMessageBox) {
   form.cmdOK.onClick = [&] {
     form.tmrWait.SetInterval(10);
