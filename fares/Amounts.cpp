@@ -29,8 +29,9 @@ bool ForEachItem(std::wstring& list, const Change& change) {
 
 }  // namespace
 
-std::wstring WithoutCurrency(std::wstring_view amount) {
-  return common::Mid(amount, kCurrencyLength + 1);
+std::wstring_view WithoutCurrency(std::wstring_view amount) {
+  amount.remove_prefix(std::min<std::size_t>(kCurrencyLength, amount.size()));
+  return amount;
 }
 
 double AmountIn(std::wstring_view amount) { return common::HostNumber(WithoutCurrency(amount)); }

@@ -15,7 +15,7 @@ namespace fares {
 inline constexpr int kCurrencyLength = 3;
 
 /// What follows the currency code; "" when nothing does.
-std::wstring WithoutCurrency(std::wstring_view amount);
+std::wstring_view WithoutCurrency(std::wstring_view amount);
 
 /// The number behind the currency code, by the host's number reading: the same in every locale.
 double AmountIn(std::wstring_view amount);

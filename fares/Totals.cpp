@@ -88,9 +88,9 @@ double Totals::XFAmount(std::wstring_view items) const {
 
 void Totals::AddTaxes() {
   if (tst_.strTaxList.empty()) return;
-  const std::vector<std::wstring> items = LeadingItems(tst_.strTaxList);
+  std::vector<std::wstring> items = LeadingItems(tst_.strTaxList);
   if (taxes_.empty()) {
-    taxes_ = items;
+    taxes_ = std::move(items);
   } else {
     for (const std::wstring& item : items) AddTax(item);
   }

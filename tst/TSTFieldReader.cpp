@@ -44,9 +44,11 @@ bool TSTFieldReader::IsReissue() { return global_.FlagIn(bag_, L"blnKeyReissue")
 std::wstring TSTFieldReader::SalesIndicator() { return Text(L"strKeySalesIndicator"); }
 
 void TSTFieldReader::ReadTaxes(TSTInfo& tst) {
-  const hostlib::Value taxes = bag_.GetValue(L"strKeyTaxArray()");
+  hostlib::Value taxes = bag_.GetValue(L"strKeyTaxArray()");
   if (!taxes.IsArray() && !taxes.IsObject()) return;
-  for (const std::wstring& tax : hostlib::TextsOf(taxes).items) tst.strTaxList += tax + L";";
+  for (const std::wstring& tax : hostlib::TextsOf(std::move(taxes)).items) {
+    tst.strTaxList.append(tax).append(L";");
+  }
 }
 
 void TSTFieldReader::ReadFareElements(TSTInfo& tst) {

@@ -24,11 +24,15 @@ std::wstring BackOfficeRemark::CreateRMStarElement() {
   std::wstring remark;
   errors_.Run(errors::procedures::kCreateRMStar, [&] {
     const int passengers = CountPassengers();
-    const std::wstring fee = FeeGroup(passengers);
     const double fare = fares::AmountIn(mco_.strTotalFare) / passengers;
     const Taxes taxes = TaxesEach(passengers);
-    remark = L"*" + Group(L"FARE", fare) + GroupUnlessZero(L",TAX", taxes.tax) + fee +
-             GroupUnlessZero(L",VAT", taxes.vat);
+    std::wstring groups = L"*";
+    AddGroup(groups, L"FARE", fare);
+    if (taxes.tax != 0) AddGroup(groups, L",TAX", taxes.tax);
+    // A fee that is there is told even when nothing of it is left.
+    if (mco_.dblMCOFee != 0) AddGroup(groups, L",PTA", FeeEach(passengers));
+    if (taxes.vat != 0) AddGroup(groups, L",VAT", taxes.vat);
+    remark = std::move(groups);
   });
   return remark;
 }
@@ -42,10 +46,9 @@ int BackOfficeRemark::CountPassengers() const {
   return std::max(passengers, 1);
 }
 
-// Only the fee is truncated; a fee that is there is told even when nothing of it is left.
-std::wstring BackOfficeRemark::FeeGroup(int passengers) const {
-  if (mco_.dblMCOFee == 0) return {};
-  return Group(L",PTA", passengers > 1 ? std::trunc(mco_.dblMCOFee / passengers) : mco_.dblMCOFee);
+// Only the fee is truncated.
+double BackOfficeRemark::FeeEach(int passengers) const {
+  return passengers > 1 ? std::trunc(mco_.dblMCOFee / passengers) : mco_.dblMCOFee;
 }
 
 BackOfficeRemark::Taxes BackOfficeRemark::TaxesEach(int passengers) {
@@ -59,12 +62,8 @@ BackOfficeRemark::Taxes BackOfficeRemark::TaxesEach(int passengers) {
   }
 }
 
-std::wstring BackOfficeRemark::Group(std::wstring_view name, double amount) const {
-  return std::wstring(name) + L":" + common::NumberText(amount, settings_.strSymbol);
-}
-
-std::wstring BackOfficeRemark::GroupUnlessZero(std::wstring_view name, double amount) const {
-  return amount == 0 ? std::wstring() : Group(name, amount);
+void BackOfficeRemark::AddGroup(std::wstring& groups, std::wstring_view name, double amount) const {
+  groups.append(name).append(L":").append(common::NumberText(amount, settings_.strSymbol));
 }
 
 }  // namespace updates

@@ -29,9 +29,8 @@ class BackOfficeRemark {
 
   int CountPassengers() const;
   Taxes TaxesEach(int passengers);
-  std::wstring FeeGroup(int passengers) const;
-  std::wstring Group(std::wstring_view name, double amount) const;
-  std::wstring GroupUnlessZero(std::wstring_view name, double amount) const;
+  double FeeEach(int passengers) const;
+  void AddGroup(std::wstring& groups, std::wstring_view name, double amount) const;
 
   hostlib::ScriptGlobal& global_;
   errors::ErrorHandler& errors_;

@@ -75,8 +75,9 @@ void ElementCreation::AddPassengerElements(bool exists, std::wstring tst::TSTInf
 }
 
 void ElementCreation::AddRemark(std::wstring_view text) {
-  const std::wstring element = builders_.CreateRMElement(text);
-  Add(common::Length(element) > kLongestRemark ? builders_.DivideRMString(element) : element);
+  std::wstring element = builders_.CreateRMElement(text);
+  if (common::Length(element) > kLongestRemark) element = builders_.DivideRMString(element);
+  Add(std::move(element));
 }
 
 void ElementCreation::Add(std::wstring element) {

@@ -11,11 +11,9 @@ constexpr std::size_t kEntryLimit = 240;
 std::vector<std::wstring> JoinElements(const std::vector<std::wstring>& elements) {
   std::vector<std::wstring> entries;
   for (const std::wstring& element : elements) {
-    const std::wstring piece = element + L";";
-    if (entries.empty() || entries.back().size() + piece.size() >= kEntryLimit) {
-      entries.emplace_back();
-    }
-    entries.back() += piece;
+    const std::size_t length = element.size() + 1;
+    if (entries.empty() || entries.back().size() + length >= kEntryLimit) entries.emplace_back();
+    entries.back().append(element).append(L";");
   }
   return entries;
 }
