@@ -54,7 +54,6 @@ void SendTSTTrans::Reset() {
   records_.mco.blnInf = false;
   lastTransaction_.clear();
   currentResponse_.clear();
-  selectedTSTArray_.clear();
   records_.pnr.blnFVExists = false;
   records_.pnr.blnFMExists = false;
   records_.tsts = TSTCollection();
