@@ -30,27 +30,25 @@ void DialogFields::FillDocument() {
   if (pnr_.strFP1.empty()) pnr_.strFP1 = mco_.strFormOfPayment;
 }
 
-bool DialogFields::NeedsOSI() const {
-  return common::Left(mco_.strMCONumber, kPrefixLength) == kOSIPrefix;
-}
+bool DialogFields::NeedsOSI() const { return mco_.strMCONumber.starts_with(kOSIPrefix); }
 
 void DialogFields::FillCommission() {
-  if (common::Left(common::LeftTrim(mco_.strCommission), 1) == L"*") {
+  if (common::LeftTrim(mco_.strCommission).starts_with(L'*')) {
     mco_.strCommission = global_.GetField(mco_.strCommission, 3, L"*");
   }
   dialog_.txtCommission.SetText(mco_.strCommission);
 }
 
 void DialogFields::FillPWCT() {
-  const std::wstring proposal =
-      mco_.strAirlineCode + L" AT " + general_.strOriginAirport + L" A/P BEFORE DEPARTURE";
+  const std::wstring proposal = common::Joined(
+      {mco_.strAirlineCode, L" AT ", general_.strOriginAirport, L" A/P BEFORE DEPARTURE"});
   dialog_.txtPWCT.SetText(pnr_.strRMPWCTNumber.empty() ? proposal : pnr_.strRMPWCTAction);
 }
 
 void DialogFields::FillQueueing(std::wstring office, const std::wstring& queue) {
   if (general_.strOriginAirport == kCityOfAirport) general_.strOriginCity = kCityOfAirport;
   if (office.empty()) return;
-  if (common::Left(office, common::Length(kCityPlaceholder)) == kCityPlaceholder) {
+  if (office.starts_with(kCityPlaceholder)) {
     office = common::Replace(office, kCityPlaceholder, general_.strOriginCity);
   }
   // The office comes first: its Change handler writes the queue that stands when none is found.
@@ -62,8 +60,8 @@ void DialogFields::RebuildFormOfPayment() {
   if (!general_.blnMultipleFP || totals_.strTotalFareLastTSTs.empty()) return;
   const std::wstring first = common::Trim(global_.GetField(mco_.strFormOfPayment, 1, L"+"));
   const std::wstring second = common::Trim(global_.GetField(mco_.strFormOfPayment, 2, L"+"));
-  mco_.strFormOfPayment = first + L"/" + totals_.strTotalFareFirstTST + L" + " + second + L"/" +
-                          totals_.strTotalFareLastTSTs;
+  mco_.strFormOfPayment = common::Joined({first, L"/", totals_.strTotalFareFirstTST, L" + ", second,
+                                          L"/", totals_.strTotalFareLastTSTs});
   dialog_.txtFormOfPayment.SetText(mco_.strFormOfPayment);
 }
 

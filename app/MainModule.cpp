@@ -103,9 +103,9 @@ void MainModule::ReadRemarks() {
 
 void MainModule::ProposeQueueing() {
   const std::wstring& airline = common_.mco->strAirlineCode;
-  const std::wstring office = rooms_->profile.Read(L"OfficeID" + airline, L"OfficeID", airline);
+  std::wstring office = rooms_->profile.Read(L"OfficeID" + airline, L"OfficeID", airline);
   const std::wstring queue = rooms_->profile.Read(L"QueNumber" + airline, L"QueNumber", airline);
-  rooms_->dialogFields.FillQueueing(office, queue);
+  rooms_->dialogFields.FillQueueing(std::move(office), queue);
 }
 
 void MainModule::ShowDialog() {

@@ -37,22 +37,23 @@ void UpdateRun::TakeDialog(const std::wstring& officeID) {
   pnr_.blnLH = common::Contains(officeID, L"LH0");
   TakePWCT();
   mco_.strAirlineCode = Trimmed(dialog_.txtCarrier);
-  const std::wstring formOfPayment = Trimmed(dialog_.txtFormOfPayment);
-  if (!formOfPayment.empty()) mco_.strFormOfPayment = formOfPayment;
-  mco_.strMCONumber = Trimmed(dialog_.txtAirlinePrefix) + L"-" + Trimmed(dialog_.txtMCONumber);
+  std::wstring formOfPayment = Trimmed(dialog_.txtFormOfPayment);
+  if (!formOfPayment.empty()) mco_.strFormOfPayment = std::move(formOfPayment);
+  mco_.strMCONumber =
+      common::Joined({Trimmed(dialog_.txtAirlinePrefix), L"-", Trimmed(dialog_.txtMCONumber)});
   mco_.strCommission = Trimmed(dialog_.txtCommission);
 }
 
 // Afterwards a number means: change this remark; the flag means: create one.
 void UpdateRun::TakePWCT() {
-  const std::wstring text = Trimmed(dialog_.txtPWCT);
+  std::wstring text = Trimmed(dialog_.txtPWCT);
   if (pnr_.strRMPWCTNumber.empty()) {
     newPWCT_ = true;
-    pnr_.strRMPWCTAction = text;
+    pnr_.strRMPWCTAction = std::move(text);
   } else if (text == pnr_.strRMPWCTAction) {
     pnr_.strRMPWCTNumber.clear();
   } else {
-    pnr_.strRMPWCTAction = text;
+    pnr_.strRMPWCTAction = std::move(text);
   }
 }
 

@@ -127,9 +127,19 @@ int InStrAnyCase(std::wstring_view text, std::wstring_view sought) {
   return InStr(UpperCase(text), UpperCase(sought));
 }
 
+std::wstring Joined(std::initializer_list<std::wstring_view> pieces) {
+  std::size_t length = 0;
+  for (const std::wstring_view piece : pieces) length += piece.size();
+  std::wstring text;
+  text.reserve(length);
+  for (const std::wstring_view piece : pieces) text += piece;
+  return text;
+}
+
 std::wstring Replace(std::wstring_view text, std::wstring_view sought, std::wstring_view by) {
   if (sought.empty()) return std::wstring(text);
   std::wstring result;
+  result.reserve(text.size() + by.size());
   std::size_t from = 0;
   for (std::size_t at = text.find(sought); at != text.npos; at = text.find(sought, from)) {
     result.append(text.substr(from, at - from)).append(by);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -28,6 +29,8 @@ bool Contains(std::wstring_view text, std::wstring_view sought);
 int InStrAnyCase(std::wstring_view text, std::wstring_view sought);
 
 std::wstring Replace(std::wstring_view text, std::wstring_view sought, std::wstring_view by);
+/// The pieces behind each other with nothing between them, put together at once; "" without any.
+std::wstring Joined(std::initializer_list<std::wstring_view> pieces);
 std::wstring Space(int count);
 /// The letters of the western and central European alphabets; the same in every locale.
 std::wstring UpperCase(std::wstring_view text);

@@ -11,6 +11,7 @@ constexpr wchar_t kSeparator = L';';
 
 std::vector<std::wstring> SplitItems(std::wstring_view list) {
   std::vector<std::wstring> items;
+  items.reserve(static_cast<std::size_t>(std::ranges::count(list, kSeparator)) + 1);
   for (std::size_t from = 0; from <= list.size();) {
     const std::size_t end = std::min(list.find(kSeparator, from), list.size());
     items.emplace_back(list.substr(from, end - from));

@@ -23,7 +23,7 @@ void AddAmount(std::wstring& held, const std::wstring& added, std::wstring_view 
   if (held.empty()) {
     held = added;
   } else {
-    held = std::wstring(currency) + common::NumberText(WholeSum(held, added));
+    held = common::Joined({currency, common::NumberText(WholeSum(held, added))});
   }
 }
 
@@ -104,9 +104,9 @@ void Totals::AddTax(std::wstring_view item) {
   const auto match =
       code.empty() ? taxes_.end() : std::find_if(taxes_.begin(), taxes_.end(), holdsCode);
   if (match != taxes_.end()) {
-    *match = mco_.strCurrency + common::NumberText(WholeSum(*match, item)) + code;
+    *match = common::Joined({mco_.strCurrency, common::NumberText(WholeSum(*match, item)), code});
   } else if (amount > 0) {
-    taxes_.push_back(mco_.strCurrency + common::NumberText(amount) + code);
+    taxes_.push_back(common::Joined({mco_.strCurrency, common::NumberText(amount), code}));
   }
 }
 
@@ -125,12 +125,12 @@ void Totals::CalculateTotalFare() {
 void Totals::BuildPTATotalRemark() {
   errors_.Run(errors::procedures::kPTATotalRemark, [&] {
     std::wstring remark = mco_.strFare;
-    if (!mco_.strEquivalentFare.empty()) remark += L"/EQUIV " + mco_.strEquivalentFare;
+    if (!mco_.strEquivalentFare.empty()) remark.append(L"/EQUIV ").append(mco_.strEquivalentFare);
     if (!mco_.strTaxList.empty()) {
-      remark += L"/TAX " + common::Replace(mco_.strTaxList, L";", L", ");
+      remark.append(L"/TAX ").append(common::Replace(mco_.strTaxList, L";", L", "));
     }
-    pnr_.strRMPTATotal = remark;
-    txtPTA_.SetText(remark);
+    pnr_.strRMPTATotal = std::move(remark);
+    txtPTA_.SetText(pnr_.strRMPTATotal);
   });
 }
 

@@ -20,10 +20,11 @@ constexpr std::wstring_view kCompleteText =
 
 constexpr int kInterval = 5000;
 constexpr double kMinute = 60000;
-constexpr int kElementWidth = 50;
+constexpr std::size_t kElementWidth = 50;
 
-std::wstring Padded(const std::wstring& element) {
-  return element + common::Space(std::max(0, kElementWidth - common::Length(element)));
+std::wstring Padded(std::wstring element) {
+  if (element.size() < kElementWidth) element.resize(kElementWidth, L' ');
+  return element;
 }
 
 std::int32_t NumberOrZero(std::wstring_view text) {
@@ -97,14 +98,14 @@ void frmWaitForMCO::ListElement(hostlib::PnrReader& reader, int index) {
   reader.ReadElement(bag);
   const std::wstring number = reach_.global.TextIn(bag, L"strKeyElementNr");
   const std::wstring faNumber = reach_.global.TextIn(bag, L"strKeyMCOFATicketNbr");
-  const std::wstring element = reach_.global.TextIn(bag, L"strKeyElement");
+  std::wstring element = reach_.global.TextIn(bag, L"strKeyElement");
   const bool hasFA = !faNumber.empty();
   if (hasFA) ++faCount_;
-  addMCOItem(Padded(element), NumberOrZero(number), hasFA ? 1 : 0);
+  addMCOItem(Padded(std::move(element)), NumberOrZero(number), hasFA ? 1 : 0);
 }
 
-void frmWaitForMCO::addMCOItem(std::wstring_view text, std::int32_t itemData, std::int16_t flag) {
-  lstMCOElements.Add(text, itemData);
+void frmWaitForMCO::addMCOItem(std::wstring text, std::int32_t itemData, std::int16_t flag) {
+  lstMCOElements.Add(std::move(text), itemData);
   flags_.resize(lstMCOElements.Items().size());
   flags_.back() = flag;
 }

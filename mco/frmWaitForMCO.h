@@ -49,7 +49,7 @@ class frmWaitForMCO : public ui::Form {
   const std::vector<std::int16_t>& Flags() const { return flags_; }
 
   /// Adds one line to the list.
-  void addMCOItem(std::wstring_view text, std::int32_t itemData, std::int16_t flag);
+  void addMCOItem(std::wstring text, std::int32_t itemData, std::int16_t flag);
   /// Counts the MCO segments, when asked to after the PNR has been read again. When a report within
   /// marks the run to stop, nothing more is asked of the host.
   std::int16_t CountMCOs(bool readAgain);

@@ -44,11 +44,11 @@ void GetPTAPNRinfo::GetPNRInformation() {
 }
 
 void GetPTAPNRinfo::ReadRecordLocator(PnrReader& reader) {
-  const std::wstring locator = reader.GetRecordLocator();
+  std::wstring locator = reader.GetRecordLocator();
   if (locator.empty()) {
     errors_.Report(procedures::kRecordLocatorMissing);
   } else {
-    mco_.strRecordLocator = locator;
+    mco_.strRecordLocator = std::move(locator);
   }
 }
 

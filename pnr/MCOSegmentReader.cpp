@@ -29,9 +29,9 @@ void MCOSegmentReader::GetMCOInformation(std::int16_t index) {
 // The airline that an exception names is final: it is not looked up again.
 void MCOSegmentReader::ReadAirline(const hostlib::ParameterBag& bag) {
   mco_.strAirlineCode = global_.TextIn(bag, L"strKeyAirline");
-  const std::wstring validating =
+  std::wstring validating =
       profile_.Read(L"FVException" + mco_.strAirlineCode, L"FVException", mco_.strAirlineCode);
-  if (!validating.empty()) mco_.strAirlineCode = validating;
+  if (!validating.empty()) mco_.strAirlineCode = std::move(validating);
 }
 
 // The agency's list has no separator of its own: a code counts wherever its letters stand.

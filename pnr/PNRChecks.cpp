@@ -14,9 +14,7 @@ namespace {
 
 constexpr std::wstring_view kPWCT = L"PWCT";
 
-bool IsPWCT(std::wstring_view remark) {
-  return common::Left(common::Trim(remark), static_cast<int>(kPWCT.size())) == kPWCT;
-}
+bool IsPWCT(std::wstring_view remark) { return common::LeftTrim(remark).starts_with(kPWCT); }
 
 // Cut from the remark as it stands: one with leading blanks keeps the end of the word itself.
 std::wstring PWCTAction(std::wstring_view remark) {

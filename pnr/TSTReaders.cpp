@@ -24,9 +24,10 @@ void DropLeading(wchar_t separator, std::wstring& list) {
 }
 
 // An infant that travels with an adult stands in brackets behind the adult's name.
-std::wstring WithoutInfant(const std::wstring& name) {
+std::wstring WithoutInfant(std::wstring name) {
   const int bracket = common::InStr(name, L"(");
-  return bracket == 0 ? name : common::Trim(common::Left(name, bracket - 1));
+  if (bracket == 0) return name;
+  return common::Trim(common::Left(name, bracket - 1));
 }
 
 std::vector<std::wstring_view> ElementsOf(std::wstring_view association) {
@@ -81,9 +82,9 @@ void TSTReaders::GetNameInformation(tst::TSTInfo& tst) {
     for (int i = 0; i < count; ++i) {
       const ParameterBag bag = ElementBag(library_, i);
       reader.GetNameElement(bag);
-      const std::wstring name = global_.TextIn(bag, L"strKeyElement");
+      std::wstring name = global_.TextIn(bag, L"strKeyElement");
       if (!tst.blnInf) {
-        const std::wstring adult = WithoutInfant(name);
+        const std::wstring adult = WithoutInfant(std::move(name));
         if (common::Contains(namesOfTST, common::UpperCase(adult))) CountAdult(bag, adult, tst);
       } else if (common::InStrAnyCase(name, L"(INF") > 0) {
         CountInfant(bag, tst);
@@ -99,18 +100,19 @@ void TSTReaders::GetNameInformation(tst::TSTInfo& tst) {
 void TSTReaders::CountInfant(const ParameterBag& bag, tst::TSTInfo& tst) {
   AddOne(tst.intNoNames);
   AddOne(pnr_.intTotalNames);
-  mco_.strINFPasAsso += L"," + global_.TextIn(bag, L"strKeyElementNr");
+  const std::wstring number = global_.TextIn(bag, L"strKeyElementNr");
+  mco_.strINFPasAsso.append(L",").append(number);
 }
 
 void TSTReaders::CountAdult(const ParameterBag& bag, const std::wstring& name, tst::TSTInfo& tst) {
   // Drops a one-digit element number and its point; a two-digit number leaves its point in front.
   const std::wstring listed = common::Mid(name, 3);
   if (mco_.strFirstName.empty()) mco_.strFirstName = listed;
-  mco_.strNameList += L";" + listed;
-  const std::wstring number = L"," + global_.TextIn(bag, L"strKeyElementNr");
-  mco_.strPasAsso += number;
+  mco_.strNameList.append(L";").append(listed);
+  const std::wstring number = global_.TextIn(bag, L"strKeyElementNr");
+  mco_.strPasAsso.append(L",").append(number);
   AddOne(pnr_.intTotalNames);
-  tst.strPasAsso += number;
+  tst.strPasAsso.append(L",").append(number);
   AddOne(tst.intNoNames);
 }
 

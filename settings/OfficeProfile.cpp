@@ -10,8 +10,9 @@ OfficeProfile::OfficeProfile(hostlib::Library& library, const IniFile& file)
 std::wstring OfficeProfile::Read(std::wstring_view officeKey, std::wstring_view fixedSection,
                                  std::wstring_view fixedKey) const {
   hostlib::ProfileStore store(library_);
-  const std::wstring value = store.ReadValue(file_.path, file_.officeSection, officeKey);
-  return value.empty() ? store.ReadValue(file_.path, fixedSection, fixedKey) : value;
+  std::wstring value = store.ReadValue(file_.path, file_.officeSection, officeKey);
+  if (value.empty()) value = store.ReadValue(file_.path, fixedSection, fixedKey);
+  return value;
 }
 
 void OfficeProfile::Write(std::wstring_view key, std::wstring_view value) const {

@@ -122,8 +122,9 @@ void SendTSTTrans::ReadPickedTST(const std::wstring& tstNumber, const std::wstri
 void SendTSTTrans::DeriveMCOData() {
   pnr::MCOInfo& mco = records_.mco;
   const TSTGeneral& general = records_.general;
-  mco.strFlightInfo = general.strFirstFlightNo + L" " + general.strFirstTravelDate + L" " +
-                      records_.pnr.strOrigin + L" " + records_.pnr.strDestination;
+  mco.strFlightInfo =
+      common::Joined({general.strFirstFlightNo, L" ", general.strFirstTravelDate, L" ",
+                      records_.pnr.strOrigin, L" ", records_.pnr.strDestination});
   if (mco.strAirlineCode.empty()) mco.strAirlineCode = common::Left(general.strFirstFlightNo, 2);
   mco.strPasAsso = global_.FormatAssociation(mco.strPasAsso);
   if (common::Contains(common::Trim(mco.strSegAsso), L" + ")) mco.strSegAsso.clear();

@@ -4,7 +4,6 @@
 #include <cmath>
 
 #include "common/Numbers.h"
-#include "common/Text.h"
 #include "fares/Amounts.h"
 
 namespace updates {
@@ -56,8 +55,7 @@ BackOfficeRemark::Taxes BackOfficeRemark::TaxesEach(int passengers) {
   for (int number = 1;; ++number) {
     const std::wstring entry = global_.GetField(mco_.strTaxList, number, L";");
     if (entry.empty()) return taxes;
-    const bool isVAT = settings_.strCountryCode == kVATCountry &&
-                       common::Right(entry, common::Length(kVATCode)) == kVATCode;
+    const bool isVAT = settings_.strCountryCode == kVATCountry && entry.ends_with(kVATCode);
     (isVAT ? taxes.vat : taxes.tax) += fares::AmountIn(entry) / passengers;
   }
 }

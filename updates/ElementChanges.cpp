@@ -97,10 +97,8 @@ void ElementChanges::UpdateFMElement(std::wstring_view elementNumber,
 }
 
 void ElementChanges::UpdateFPElement(std::wstring_view elementNumber, std::wstring_view fpText) {
-  std::wstring newValue = L"O/PT/";
-  newValue += fpText;
-  if (pnr_.blnLH) newValue += L"AGT";
-  ChangeElement(procedures::kUpdateFP, elementNumber, newValue);
+  const std::wstring_view agent = pnr_.blnLH ? L"AGT" : L"";
+  ChangeElement(procedures::kUpdateFP, elementNumber, common::Joined({L"O/PT/", fpText, agent}));
 }
 
 void ElementChanges::ChangeElement(const errors::Procedure& procedure,

@@ -46,10 +46,7 @@ void ElementCreation::CreateElements(bool newPWCT, std::wstring_view officeID) {
   if (settings_.blnAddOP) Add(builders_.CreateOPElement());
   AddRemark(PTATotalRemark());
   if (pnr_.blnLH) {
-    AddRemark(std::wstring(L"PLS ACK PTA FROM ")
-                  .append(pnr_.strResponsibleOffice)
-                  .append(L" TO ")
-                  .append(officeID));
+    AddRemark(common::Joined({L"PLS ACK PTA FROM ", pnr_.strResponsibleOffice, L" TO ", officeID}));
   }
   const std::wstring money = backOffice_.CreateRMStarElement();
   if (!money.empty()) AddRemark(money);
@@ -85,12 +82,12 @@ void ElementCreation::Add(std::wstring element) {
 }
 
 std::wstring ElementCreation::PTATotalRemark() const {
-  std::wstring remark = L"PTA TTL " + pnr_.strRMPTATotal;
-  if (settings_.blnAddRMTotalinBOD) remark.insert(0, L"*");
+  const std::wstring_view mark = settings_.blnAddRMTotalinBOD ? L"*" : L"";
+  std::wstring fee;
   if (mco_.dblMCOFee != 0) {
-    remark += L" + " + mco_.strCurrency + common::HostNumberText(mco_.dblMCOFee) + L"XP";
+    fee = common::Joined({L" + ", mco_.strCurrency, common::HostNumberText(mco_.dblMCOFee), L"XP"});
   }
-  return remark;
+  return common::Joined({mark, L"PTA TTL ", pnr_.strRMPTATotal, fee});
 }
 
 std::wstring_view ElementCreation::PassengerType() const {

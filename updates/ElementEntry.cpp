@@ -12,7 +12,9 @@ std::vector<std::wstring> JoinElements(const std::vector<std::wstring>& elements
   std::vector<std::wstring> entries;
   for (const std::wstring& element : elements) {
     const std::size_t length = element.size() + 1;
-    if (entries.empty() || entries.back().size() + length >= kEntryLimit) entries.emplace_back();
+    if (entries.empty() || entries.back().size() + length >= kEntryLimit) {
+      entries.emplace_back().reserve(kEntryLimit);
+    }
     entries.back().append(element).append(L";");
   }
   return entries;

@@ -123,6 +123,12 @@ TEST(Text, OnlyTheTenDigitsAndTheLettersOfTheHostCount) {
   for (const wchar_t c : std::wstring(L"@[`{0\u00C5\u00E5")) EXPECT_FALSE(IsLetter(c));
 }
 
+TEST(Text, JoinedPiecesStandBehindEachOtherWithNothingBetween) {
+  const std::wstring held = L"SEK";
+  EXPECT_EQ(Joined({held, L"", L"100", std::wstring_view(L" XT").substr(0, 2)}), L"SEK100 X");
+  EXPECT_EQ(Joined({}), L"");
+}
+
 TEST(Text, SpaceIsThatManyBlanks) {
   EXPECT_EQ(Space(0), L"");
   EXPECT_EQ(Space(3), L"   ");

@@ -152,6 +152,18 @@ TEST(GetNameInformation, AnInfantTSTCountsEveryNameWithAnInfantAndFillsOnlyTheIn
   EXPECT_EQ(Fields(bench.pnr), Fields(pnr));
 }
 
+TEST(GetNameInformation, AnInfantWhoseNumberCannotBeReadLeavesTheInfantsListAsItWas) {
+  TSTReadersBench bench;
+  bench.HasNames({{L"1.SMITH/ANNA MRS(INFSMITH/BABY)", L"1"}});
+  // The name is told, its number is not.
+  bench.scripted.Answers(hostlib::operations::script_global::kToText,
+                         {L"1.SMITH/ANNA MRS(INFSMITH/BABY)"});
+  bench.tst.blnInf = true;
+  bench.room.GetNameInformation(bench.tst);
+  EXPECT_TRUE(bench.stop.isSet);
+  EXPECT_EQ(bench.mco.strINFPasAsso, L"");
+}
+
 TEST(GetNameInformation, AnInfantIsFoundByItsOpeningBracketInAnyCase) {
   TSTReadersBench bench;
   bench.HasNames({{L"1.SMITH/ANNA(inf", L"1"}, {L"2.INFANTE/JO", L"2"}, {L"3.ROE/A( INF)", L"3"}});

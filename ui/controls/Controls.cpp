@@ -86,8 +86,8 @@ void Button::Clicked() {
 ListBox::ListBox(Form& form, Literal name, Selection selection)
     : Control(form, ControlKind::kListBox, name), selection_(selection) {}
 
-void ListBox::Add(std::wstring_view text, std::int32_t data) {
-  items_.push_back({std::wstring(text), data, false});
+void ListBox::Add(std::wstring text, std::int32_t data) {
+  items_.push_back({std::move(text), data, false});
   PropertySet(Property::kItems);
 }
 

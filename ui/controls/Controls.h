@@ -122,7 +122,7 @@ class ListBox : public Control {
   Selection selection() const { return selection_; }
   const std::vector<Item>& Items() const { return items_; }
   int Count() const { return static_cast<int>(items_.size()); }
-  void Add(std::wstring_view text, std::int32_t data = 0);
+  void Add(std::wstring text, std::int32_t data = 0);
   void Clear();
 
   /// The first selected line, -1 when there is none.
