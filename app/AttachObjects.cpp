@@ -1,57 +1,81 @@
 #include "app/AttachObjects.h"
 
-#include <functional>
-#include <utility>
-
 #include "common/ConstDefintions.h"
 
 namespace app {
 namespace {
 
-constexpr int kFirstSlot = 7;
 constexpr auto kMemberNotFound = static_cast<std::int32_t>(0x80020003);
 
-/// Read-only properties, one a slot.
+/// Read-only properties, one a slot. Its name and what it tells of outlast the object.
 class PropertyObject : public hostlib::Object {
  public:
-  using Property = std::function<hostlib::Value()>;
-  /// The name outlasts the object, as what its properties read does.
-  PropertyObject(std::wstring_view className, std::vector<Property> properties)
-      : className_(className), properties_(std::move(properties)) {}
+  explicit PropertyObject(std::wstring_view className) : className_(className) {}
 
   std::wstring_view ClassName() const override { return className_; }
-  hostlib::Value Call(int slot, const hostlib::Arguments&) override {
-    const auto index = static_cast<std::size_t>(slot - kFirstSlot);
-    if (slot < kFirstSlot || index >= properties_.size()) Missing();
-    return properties_[index]();
-  }
   hostlib::ObjectPtr Interface(int) override { Missing(); }
 
- private:
+ protected:
   [[noreturn]] void Missing() const {
     throw hostlib::LibraryError(kMemberNotFound, std::wstring(className_), L"Member not found");
   }
 
+ private:
   std::wstring_view className_;
-  std::vector<Property> properties_;
+};
+
+class ProgressFormObject : public PropertyObject {
+ public:
+  ProgressFormObject(const ui::Form& form, const ui::Label& text)
+      : PropertyObject(form.name()), form_(form), text_(text) {}
+
+  hostlib::Value Call(int slot, const hostlib::Arguments&) override {
+    switch (slot) {
+      case 7:
+        return form_.Caption();
+      case 8:
+        return text_.Text();
+      default:
+        Missing();
+    }
+  }
+
+ private:
+  const ui::Form& form_;
+  const ui::Label& text_;
+};
+
+class ApplicationObject : public PropertyObject {
+ public:
+  explicit ApplicationObject(const platform::Platform& platform)
+      : PropertyObject(L"Application"), platform_(platform) {}
+
+  hostlib::Value Call(int slot, const hostlib::Arguments&) override {
+    constexpr std::int32_t kOneInstance = 1;
+    switch (slot) {
+      case 7:
+        return common::kTitle;
+      case 8:
+        return platform_.ProgramFolder();
+      case 9:
+        return kOneInstance;
+      default:
+        Missing();
+    }
+  }
+
+ private:
+  const platform::Platform& platform_;
 };
 
 }  // namespace
 
 hostlib::ObjectPtr MakeProgressFormObject(const ui::Form& form, const ui::Label& text) {
-  return std::make_shared<PropertyObject>(
-      form.name(),
-      std::vector<PropertyObject::Property>{[&form] { return hostlib::Value(form.Caption()); },
-                                            [&text] { return hostlib::Value(text.Text()); }});
+  return std::make_shared<ProgressFormObject>(form, text);
 }
 
 hostlib::ObjectPtr MakeApplicationObject(const platform::Platform& platform) {
-  constexpr std::int32_t kOneInstance = 1;
-  return std::make_shared<PropertyObject>(
-      L"Application", std::vector<PropertyObject::Property>{
-                          [] { return hostlib::Value(common::kTitle); },
-                          [&platform] { return hostlib::Value(platform.ProgramFolder()); },
-                          [] { return hostlib::Value(kOneInstance); }});
+  return std::make_shared<ApplicationObject>(platform);
 }
 
 }  // namespace app

@@ -2,6 +2,7 @@
 
 #include "common/ConstDefintions.h"
 #include "common/Numbers.h"
+#include "common/Text.h"
 #include "journal/Quietly.h"
 
 namespace journal {
@@ -21,8 +22,8 @@ void JournalDesktop::Show(ui::Form& form) {
     // A form that unloads itself while it loads is never seen.
     if (wasVisible || !form.IsVisible()) return;
     fields_.Watch(form);
-    writer_.Write(L"Window " + form.name() + L" shown");
-    writer_.Remember(L"window " + form.name());
+    writer_.Write(common::Joined({L"Window ", form.name(), L" shown"}));
+    writer_.Remember(common::Joined({L"window ", form.name()}));
   });
 }
 
@@ -30,13 +31,14 @@ void JournalDesktop::ShowModal(ui::Form& form) {
   Quietly([&] {
     fields_.Watch(form);
     // It may find, while it loads, that it is not needed.
-    writer_.Write(L"Window " + form.name() + L" asked for");
-    writer_.Remember(L"window " + form.name());
+    writer_.Write(common::Joined({L"Window ", form.name(), L" asked for"}));
+    writer_.Remember(common::Joined({L"window ", form.name()}));
   });
   const auto opened = clock_.Ticks();
   inner_.ShowModal(form);
   Quietly([&] {
-    writer_.Write(L"Window " + form.name() + L" done after " + Seconds(clock_.Ticks() - opened));
+    writer_.Write(common::Joined(
+        {L"Window ", form.name(), L" done after ", Seconds(clock_.Ticks() - opened)}));
   });
 }
 

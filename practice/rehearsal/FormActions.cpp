@@ -57,7 +57,7 @@ template <typename Kind>
 Kind& FormActions::Find(const std::wstring& name) const {
   ui::Control* control = form_.Find(name);
   if (control == nullptr) {
-    throw ActionRefused(form_.name() + L" has no control " + name);
+    throw ActionRefused(common::Joined({form_.name(), L" has no control ", name}));
   }
   auto* wanted = dynamic_cast<Kind*>(control);
   if (wanted == nullptr) Fail(*control, L"is another kind of control");
@@ -81,7 +81,8 @@ void FormActions::Perform(const AgentLine& line) {
       {L"close", [&] { form_.OnCloseBox(); }}};
   const auto found = actions.find(line.verb);
   if (found == actions.end()) {
-    throw ActionRefused(L"\"" + line.verb + L"\" is nothing to do in " + form_.name());
+    throw ActionRefused(
+        common::Joined({L"\"", line.verb, L"\" is nothing to do in ", form_.name()}));
   }
   found->second();
 }
@@ -154,7 +155,7 @@ void FormActions::CheckText(const ui::Control& control, const std::wstring& text
 
 void FormActions::CheckState(const ui::Control& control, const std::wstring& state) const {
   const std::wstring words = StateWords(control) + L" ";
-  const bool negated = common::Left(state, 4) == L"not-";
+  const bool negated = state.starts_with(L"not-");
   const std::wstring plain = negated ? common::Mid(state, 5) : state;
   if (common::Contains(words, L" " + plain + L" ") == negated) {
     Fail(control, L"is not " + state + L" but" + (words == L" " ? L" as usual" : words));

@@ -59,34 +59,36 @@ int ScriptedAgent::ShowBox(std::wstring_view text, int style, std::wstring_view 
 }
 
 void ScriptedAgent::FormClosed(ui::Form& form) {
-  seen_.push_back(L"closed " + form.name());
+  seen_.push_back(common::Joined({L"closed ", form.name()}));
   std::erase(visible_, &form);
 }
 
 void ScriptedAgent::Appear(ui::Form& form) {
   if (!form.IsVisible()) visible_.push_back(&form);
   form.Shown(*this);
-  seen_.push_back(L"shown " + form.name() + L" " + Quoted(form.Caption()));
+  seen_.push_back(common::Joined({L"shown ", form.name(), L" ", Quoted(form.Caption())}));
 }
 
 void ScriptedAgent::Interact(ui::Form& form) {
   const AgentLine* line = Next();
   if (line == nullptr || line->verb != L"form" || line->Word(0) != form.name()) {
-    Disagree(form.name() + L" waits for an agent who does not expect it");
+    Disagree(common::Joined({form.name(), L" waits for an agent who does not expect it"}));
   }
   ++at_;
-  seen_.push_back(L"in " + form.name() + L" " + Quoted(form.Caption()));
+  seen_.push_back(common::Joined({L"in ", form.name(), L" ", Quoted(form.Caption())}));
   const std::vector<std::wstring> controls = DescribeControls(form);
   seen_.insert(seen_.end(), controls.begin(), controls.end());
   while (form.IsVisible()) {
     line = Next();
-    if (line == nullptr) Disagree(form.name() + L" waits, and the agent has nothing more to do");
+    if (line == nullptr) {
+      Disagree(common::Joined({form.name(), L" waits, and the agent has nothing more to do"}));
+    }
     Act(form, *line);
   }
 }
 
 void ScriptedAgent::Act(ui::Form& form, const AgentLine& line) {
-  if (!input().IsOpen()) Disagree(form.name() + L" takes no input now");
+  if (!input().IsOpen()) Disagree(common::Joined({form.name(), L" takes no input now"}));
   std::wstring did = L"> " + line.verb;
   for (const std::wstring& word : line.words) did += L" " + Quoted(word);
   seen_.push_back(did);

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "common/ConstDefintions.h"
+#include "common/Text.h"
 #include "practice/rehearsal/FormActions.h"
 
 namespace faults {
@@ -49,8 +50,9 @@ int PatientAgent::ShowBox(std::wstring_view text, int style, std::wstring_view t
 }
 
 void PatientAgent::FormClosed(ui::Form& form) {
-  timeline_.push_back(
-      {.kind = Event::Kind::kClosed, .text = form.name(), .afterFault = AfterFault()});
+  timeline_.push_back({.kind = Event::Kind::kClosed,
+                       .text = std::wstring(form.name()),
+                       .afterFault = AfterFault()});
   std::erase(visible_, &form);
 }
 
@@ -72,7 +74,7 @@ void PatientAgent::Interact(ui::Form& form) {
 void PatientAgent::Follow(ui::Form& form, const Lines& lines) {
   for (const practice::AgentLine& line : lines) {
     if (!form.IsVisible()) return;
-    if (!input().IsOpen()) throw AgentStuck{form.name() + L" takes no input"};
+    if (!input().IsOpen()) throw AgentStuck{common::Joined({form.name(), L" takes no input"})};
     try {
       practice::FormActions(form).Perform(line);
     } catch (const practice::ActionRefused&) {
@@ -82,9 +84,10 @@ void PatientAgent::Follow(ui::Form& form, const Lines& lines) {
 }
 
 void PatientAgent::Cancel(ui::Form& form, Cancelling::By by) {
-  if (!input().IsOpen()) throw AgentStuck{form.name() + L" takes no input"};
-  timeline_.push_back(
-      {.kind = Event::Kind::kCancel, .text = form.name(), .afterFault = AfterFault()});
+  if (!input().IsOpen()) throw AgentStuck{common::Joined({form.name(), L" takes no input"})};
+  timeline_.push_back({.kind = Event::Kind::kCancel,
+                       .text = std::wstring(form.name()),
+                       .afterFault = AfterFault()});
   ui::Control* button = form.Find(L"cmdCancel");
   if (button == nullptr) button = form.Find(L"btnCancel");
   if (by == Cancelling::By::kButton && button != nullptr) {
@@ -92,11 +95,13 @@ void PatientAgent::Cancel(ui::Form& form, Cancelling::By by) {
   } else {
     form.OnCloseBox();
   }
-  if (form.IsVisible()) throw AgentStuck{form.name() + L" does not let itself be cancelled"};
+  if (form.IsVisible()) {
+    throw AgentStuck{common::Joined({form.name(), L" does not let itself be cancelled"})};
+  }
 }
 
-PatientAgent::Lines PatientAgent::NextSection(const std::wstring& form) {
-  std::deque<Lines>& sections = sections_[form];
+PatientAgent::Lines PatientAgent::NextSection(std::wstring_view form) {
+  std::deque<Lines>& sections = sections_[std::wstring(form)];
   if (sections.empty()) return {};
   Lines lines = std::move(sections.front());
   sections.pop_front();

@@ -51,7 +51,7 @@ class PatientAgent : public ui::WindowlessDesktop {
   void Interact(ui::Form& form);
   void Follow(ui::Form& form, const Lines& lines);
   void Cancel(ui::Form& form, Cancelling::By by);
-  Lines NextSection(const std::wstring& form);
+  Lines NextSection(std::wstring_view form);
   bool CancelsHere();
   bool AfterFault() const { return injector_ != nullptr && injector_->HasStruck(); }
 

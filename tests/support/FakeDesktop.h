@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "common/ConstDefintions.h"
+#include "common/Text.h"
 #include "ui/controls/WindowlessDesktop.h"
 
 namespace support {
@@ -22,17 +23,19 @@ class FakeDesktop : public ui::WindowlessDesktop {
 
   void Show(ui::Form& form) override {
     if (!form.Load()) return;
-    log.push_back(L"show " + form.name());
+    log.push_back(common::Joined({L"show ", form.name()}));
     form.Shown(*this);
   }
   void ShowModal(ui::Form& form) override {
     if (!form.Load()) return;
-    log.push_back(L"modal " + form.name());
+    log.push_back(common::Joined({L"modal ", form.name()}));
     form.Shown(*this);
     if (inModal) inModal(form);
     form.Hide();
   }
-  void Refresh(ui::Form& form) override { log.push_back(L"refresh " + form.name()); }
+  void Refresh(ui::Form& form) override {
+    log.push_back(common::Joined({L"refresh ", form.name()}));
+  }
   void Beep() override { log.push_back(L"beep"); }
   void Pause(std::chrono::milliseconds time) override {
     log.push_back(L"pause " + std::to_wstring(time.count()));
@@ -48,7 +51,9 @@ class FakeDesktop : public ui::WindowlessDesktop {
                   std::wstring(text) + L"\" -> " + std::to_wstring(answer));
     return answer;
   }
-  void FormClosed(ui::Form& form) override { log.push_back(L"close " + form.name()); }
+  void FormClosed(ui::Form& form) override {
+    log.push_back(common::Joined({L"close ", form.name()}));
+  }
 };
 
 }  // namespace support

@@ -9,7 +9,7 @@ constexpr std::size_t kFewControls = 8;
 
 }  // namespace
 
-Form::Form(std::wstring_view name) : name_(name) { controls_.reserve(kFewControls); }
+Form::Form(common::Literal name) : name_(name) { controls_.reserve(kFewControls); }
 
 Form::~Form() {
   if (visible_ && view_ != nullptr) view_->FormGone(*this);

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "common/Literal.h"
 #include "ui/controls/Controls.h"
 
 namespace ui {
@@ -30,12 +31,13 @@ class FormView {
 /// handle anywhere. A Desktop shows it.
 class Form {
  public:
-  explicit Form(std::wstring_view name);
+  explicit Form(common::Literal name);
   virtual ~Form();
   Form(const Form&) = delete;
   Form& operator=(const Form&) = delete;
 
-  const std::wstring& name() const { return name_; }
+  /// As given to the constructor; it lasts as long as the program.
+  std::wstring_view name() const { return name_; }
   /// In the order in which they were made: the tab order.
   const std::vector<Control*>& controls() const { return controls_; }
   /// Null when the form has no control of that name.
@@ -90,7 +92,7 @@ class Form {
   void Add(Control& control) { controls_.push_back(&control); }
   void AskFocus(Control& control);
 
-  std::wstring name_;
+  common::Literal name_;
   std::wstring caption_;
   std::shared_ptr<const bool> life_ = std::make_shared<const bool>(true);
   std::vector<Control*> controls_;

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "common/RunTimeError.h"
+#include "common/Text.h"
 #include "ui/win32/ControlIds.h"
 
 namespace ui {
@@ -17,9 +18,11 @@ constexpr int kProgramIcon = 1;
 FormWindow::FormWindow(Form& form, HINSTANCE instance, HWND owner, Shell& shell)
     : form_(&form),
       shell_(shell),
-      window_(CreateDialogParamW(instance, form.name().c_str(), owner, &Procedure, 0)) {
+      window_(
+          CreateDialogParamW(instance, std::wstring(form.name()).c_str(), owner, &Procedure, 0)) {
   if (window_ == nullptr) {
-    throw common::RunTimeError(L"The window of " + form.name() + L" can not be made");
+    throw common::RunTimeError(
+        common::Joined({L"The window of ", form.name(), L" can not be made"}));
   }
   SetWindowTextW(handle(), form.Caption().c_str());
   UseProgramIcon(instance);
@@ -37,7 +40,7 @@ void FormWindow::Bind(Control& control) {
                           ? handle()
                           : GetDlgItem(handle(), ControlId(control.name()));
   if (native == nullptr) {
-    throw common::RunTimeError(form_->name() + L" has no " + std::wstring(control.name()));
+    throw common::RunTimeError(common::Joined({form_->name(), L" has no ", control.name()}));
   }
   auto& bound = controls_[&control] = NativeControl::Make(control, native, shell_);
   bound->PushAll();
