@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/Literal.h"
 #include "hostlib/Facade.h"
 
 namespace hostlib {
@@ -12,10 +13,10 @@ class ParameterBag : public Facade {
   /// A bag that the library made.
   explicit ParameterBag(const Value& answer) : Facade(answer.AsObject()) {}
 
-  void SetValue(std::wstring_view key, const ValueView& value) {
+  void SetValue(common::Literal key, const ValueView& value) {
     Call(operations::parameter_bag::kSetValue, key, value);
   }
-  Value GetValue(std::wstring_view key) const {
+  Value GetValue(common::Literal key) const {
     return Call(operations::parameter_bag::kGetValue, key);
   }
 };

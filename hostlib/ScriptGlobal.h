@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/Literal.h"
 #include "hostlib/ParameterBag.h"
 
 namespace hostlib {
@@ -39,12 +40,10 @@ class ScriptGlobal : public Facade {
   }
 
   /// A key's value as the convention reads it: GetValue, then ToText or ToBoolean.
-  std::wstring TextIn(const ParameterBag& bag, std::wstring_view key) {
+  std::wstring TextIn(const ParameterBag& bag, common::Literal key) {
     return ToText(bag.GetValue(key));
   }
-  bool FlagIn(const ParameterBag& bag, std::wstring_view key) {
-    return ToBoolean(bag.GetValue(key));
-  }
+  bool FlagIn(const ParameterBag& bag, common::Literal key) { return ToBoolean(bag.GetValue(key)); }
 
  private:
   template <typename... Values>

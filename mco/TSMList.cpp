@@ -14,7 +14,7 @@ namespace procedures = errors::procedures;
 
 namespace {
 
-constexpr std::wstring_view kFeeKey = L"dblMCOFee";
+constexpr common::Literal kFeeKey = L"dblMCOFee";
 constexpr std::wstring_view kHostDecimal = L".";
 
 // The first `count` rows, counted from index 0 whatever the array's own bounds are.

@@ -20,12 +20,11 @@ SettingsFile::SettingsFile(const OfficeProfile& profile, errors::ErrorHandler& e
 
 // In the order of reading, which is that of writing, too.
 SettingsFile::Entries SettingsFile::EntriesOf(const SettingsControls& controls) {
-  const auto text = [](std::wstring_view key, std::wstring Settings::*field,
+  const auto text = [](common::Literal key, std::wstring Settings::*field,
                        ui::TextBox* box = nullptr) {
     return Entry{key, field, box};
   };
-  const auto flag = [](std::wstring_view key, bool Settings::*field,
-                       ui::CheckBox* check = nullptr) {
+  const auto flag = [](common::Literal key, bool Settings::*field, ui::CheckBox* check = nullptr) {
     return Entry{key, nullptr, nullptr, field, check};
   };
   return {text(L"IATANumber", &Settings::strIATANumber, &controls.txtIATANumber),
@@ -49,10 +48,10 @@ void SettingsFile::ReadSettings() {
 }
 
 void SettingsFile::Read(const Entry& entry) {
-  const std::wstring value = profile_.Read(entry.key, kDefaultSection, entry.key);
+  std::wstring value = profile_.Read(entry.key, kDefaultSection, entry.key);
   if (entry.text != nullptr) {
-    settings_.*entry.text = value;
-    if (entry.box != nullptr) entry.box->SetText(value);
+    settings_.*entry.text = std::move(value);
+    if (entry.box != nullptr) entry.box->SetText(settings_.*entry.text);
   } else {
     settings_.*entry.flag = value == kYes;
     if (entry.check != nullptr) entry.check->SetValue(value == kYes);

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "common/Literal.h"
 #include "errors/ErrorHandler.h"
 #include "settings/OfficeProfile.h"
 #include "settings/Settings.h"
@@ -26,7 +27,7 @@ class SettingsFile {
   /// One key of the file: a text or a Yes/No field, with the control that shows it. A key without
   /// a control is only ever read.
   struct Entry {
-    std::wstring_view key;
+    common::Literal key;
     std::wstring Settings::*text = nullptr;
     ui::TextBox* box = nullptr;
     bool Settings::*flag = nullptr;

@@ -61,7 +61,7 @@ void TSTFieldReader::ReadFareElements(TSTInfo& tst) {
   tst.strFVElementValue = Text(L"strKeyFVElementValue");
 }
 
-void TSTFieldReader::TakeFirst(std::wstring& field, std::wstring_view key) {
+void TSTFieldReader::TakeFirst(std::wstring& field, common::Literal key) {
   if (field.empty()) field = Text(key);
 }
 

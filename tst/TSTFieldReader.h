@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "common/Literal.h"
 #include "hostlib/ScriptGlobal.h"
 #include "pnr/MCOInfo.h"
 #include "tst/TSTGeneral.h"
@@ -27,8 +28,8 @@ class TSTFieldReader {
   void ReadFareElements(TSTInfo& tst);
 
  private:
-  std::wstring Text(std::wstring_view key) { return global_.TextIn(bag_, key); }
-  void TakeFirst(std::wstring& field, std::wstring_view key);
+  std::wstring Text(common::Literal key) { return global_.TextIn(bag_, key); }
+  void TakeFirst(std::wstring& field, common::Literal key);
 
   hostlib::Library& library_;
   hostlib::ScriptGlobal& global_;

@@ -6,14 +6,14 @@
 namespace tst {
 namespace {
 
-constexpr std::wstring_view kSegments = L"strKeyTSTSegment()";
+constexpr common::Literal kSegments = L"strKeyTSTSegment()";
 
 std::int16_t CountIn(const std::wstring& text) {
   return text.empty() ? std::int16_t{0} : common::ToInteger(text);
 }
 
 // An array is read anew for each of its rows, as the library's bag hands it out.
-void AppendRow(const hostlib::ParameterBag& answer, std::wstring_view key, int row,
+void AppendRow(const hostlib::ParameterBag& answer, common::Literal key, int row,
                hostlib::TextArray& rows) {
   rows.items.push_back(RowOf(hostlib::TextsOf(answer.GetValue(key)), row));
 }

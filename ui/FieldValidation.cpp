@@ -1,5 +1,6 @@
 #include "ui/FieldValidation.h"
 
+#include "common/Literal.h"
 #include "common/Text.h"
 
 namespace ui {
@@ -30,7 +31,7 @@ bool FieldValidation::Verify() {
   struct Check {
     TextBox& field;
     bool passes;
-    std::wstring_view message;
+    common::Literal message;
   };
   // An empty office is valid: the PNR is then not queued.
   const Check checks[] = {

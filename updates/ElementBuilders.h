@@ -3,8 +3,8 @@
 #include <initializer_list>
 #include <string>
 #include <string_view>
-#include <utility>
 
+#include "common/Literal.h"
 #include "errors/ErrorHandler.h"
 #include "fares/DateHelpers.h"
 #include "hostlib/Requests.h"
@@ -40,7 +40,12 @@ class ElementBuilders {
   std::wstring DivideRMString(std::wstring_view text);
 
  private:
-  using Inputs = std::initializer_list<std::pair<std::wstring_view, hostlib::ValueView>>;
+  /// What the bag of a new element gets, under which key.
+  struct Input {
+    common::Literal key;
+    hostlib::ValueView value;
+  };
+  using Inputs = std::initializer_list<Input>;
 
   std::wstring Build(const hostlib::Operation& execute, Inputs inputs);
   std::wstring CreateTextElement(const hostlib::Operation& execute, std::wstring_view type,

@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include "common/Text.h"
 #include "hostlib/Recorder.h"
 #include "hostlib/Requests.h"
 #include "hostlib/ScriptErrorReporter.h"
@@ -143,7 +144,7 @@ TEST_F(JournalHookTest, TakesACheckedEntrysOwnWord) {
 struct QueueFlags {
   bool queued;
   bool on;
-  std::vector<const wchar_t*> read;
+  std::vector<common::Literal> read;
   const wchar_t* state;
 };
 
@@ -155,7 +156,7 @@ TEST_P(FlagsOfAnAnswer, TellWhatBecameOfTheEntry) {
   scripted.Answer(operations::queue_request::kReadResponse, hostlib::ObjectPtr(answer));
   SessionAnswers(L"QUEUED");
   const ParameterBag bag = hostlib::QueueRequest(library).ReadResponse(session.SendEntry(L"QE"));
-  for (const wchar_t* key : GetParam().read) bag.GetValue(key);
+  for (const common::Literal key : GetParam().read) bag.GetValue(key);
   EXPECT_EQ(States().front(), std::wstring(L"Entry 1 ") + GetParam().state);
 }
 
@@ -228,8 +229,9 @@ TEST_F(JournalHookTest, WritesTheLibrarysOwnLastErrorAsTheFailureSeenLast) {
 }
 
 TEST_F(JournalHookTest, MasksAFormOfPaymentReadFromABag) {
-  for (const wchar_t* key : {L"strKeyMCOFPElement", L"strKeyFPElementValue"}) {
-    const std::wstring value = std::wstring(L"VALUE") + key;
+  constexpr common::Literal kKeys[] = {L"strKeyMCOFPElement", L"strKeyFPElementValue"};
+  for (const common::Literal key : kKeys) {
+    const std::wstring value = common::Joined({L"VALUE", key});
     const auto answer = scripted.Bag({{key, Value(value)}});
     scripted.Answer(operations::tst_list_request::kReadResponse, hostlib::ObjectPtr(answer));
     hostlib::TstListRequest(library).ReadResponse(L"TST").GetValue(key);
@@ -243,8 +245,9 @@ TEST_F(JournalHookTest, MasksAFormOfPaymentPutIntoABag) {
 }
 
 TEST_F(JournalHookTest, MasksTheFormsOfPaymentInAList) {
-  for (const wchar_t* key : {L"strKeyFOPArray()", L"strTSMListFOPArray"}) {
-    const std::wstring value = std::wstring(L"VALUE") + key;
+  constexpr common::Literal kLists[] = {L"strKeyFOPArray()", L"strTSMListFOPArray"};
+  for (const common::Literal key : kLists) {
+    const std::wstring value = common::Joined({L"VALUE", key});
     const auto answer =
         scripted.Bag({{key, scripted.List(hostlib::TextArray{{L"", value, L"GRANT77"}, 0})}});
     scripted.Answer(operations::tst_list_request::kReadResponse, hostlib::ObjectPtr(answer));

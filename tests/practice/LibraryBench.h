@@ -4,6 +4,7 @@
 #include <fstream>
 #include <sstream>
 
+#include "common/Literal.h"
 #include "common/Text.h"
 #include "hostlib/Requests.h"
 #include "hostlib/ScriptErrorReporter.h"
@@ -50,17 +51,21 @@ struct LibraryBench {
     reporter.Create(library);
   }
 
+  /// What a bag gets, under which key.
+  struct Input {
+    common::Literal key;
+    hostlib::Value value;
+  };
   /// A fresh bag with these keys.
-  hostlib::ParameterBag Bag(
-      std::initializer_list<std::pair<std::wstring_view, hostlib::Value>> content = {}) {
+  hostlib::ParameterBag Bag(std::initializer_list<Input> content = {}) {
     hostlib::ParameterBag bag(library);
     for (const auto& [key, value] : content) bag.SetValue(key, value);
     return bag;
   }
-  std::wstring Text(const hostlib::ParameterBag& bag, std::wstring_view key) {
+  std::wstring Text(const hostlib::ParameterBag& bag, common::Literal key) {
     return global.TextIn(bag, key);
   }
-  bool Flag(const hostlib::ParameterBag& bag, std::wstring_view key) {
+  bool Flag(const hostlib::ParameterBag& bag, common::Literal key) {
     return global.FlagIn(bag, key);
   }
   hostlib::ParameterBag Index(int index) {

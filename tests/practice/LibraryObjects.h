@@ -38,13 +38,13 @@ struct LibraryObjects : testing::Test {
     return {};
   }
   std::vector<std::wstring> Texts(const hostlib::ParameterBag& bag,
-                                  std::initializer_list<std::wstring_view> keys) {
+                                  std::initializer_list<common::Literal> keys) {
     std::vector<std::wstring> texts;
-    for (const std::wstring_view key : keys) texts.push_back(bench.Text(bag, key));
+    for (const common::Literal key : keys) texts.push_back(bench.Text(bag, key));
     return texts;
   }
   std::wstring Build(const hostlib::Operation& execute,
-                     std::initializer_list<std::pair<std::wstring_view, hostlib::Value>> content) {
+                     std::initializer_list<LibraryBench::Input> content) {
     return hostlib::PnrElementBuilder(bench.library, execute).Execute(bench.Bag(content));
   }
   bool IsAccepted(const std::wstring& element) {

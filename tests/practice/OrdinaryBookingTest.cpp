@@ -99,7 +99,10 @@ TEST_F(OrdinaryBooking, TstDetailHasEveryKey) {
   request.ReadGeneral(bag, response);
   request.ReadFare(bag, response);
   request.ReadFareElements(bag, response);
-  const std::pair<std::wstring_view, std::wstring_view> expected[] = {
+  const struct {
+    common::Literal key;
+    std::wstring_view value;
+  } expected[] = {
       {L"strKeyTSTNames", L"1.SMITH/JOHN MR"},
       {L"strKeyFirstTravelDate", L"15MAR07"},
       {L"strKeyFirstFlightNo", L"SK1234"},
