@@ -44,6 +44,14 @@ TEST(Interposer, GivesTheLibraryItsOwnObjectsBack) {
   EXPECT_EQ(QueueRequest(bench.library).BuildCommand(bag), L"found");
 }
 
+TEST(Interposer, AnObjectThatIsNoneReachesTheLibraryAsNone) {
+  Bench bench;
+  ParameterBag bag(bench.library);
+  bag.SetValue(L"key", ObjectPtr());
+  EXPECT_EQ(bench.recorder.lines().back(), L"ParameterBag.1.7 SetValue(\"key\", Nothing)");
+  EXPECT_EQ(bag.GetValue(L"key"), Value(ObjectPtr()));
+}
+
 TEST(Interposer, ObjectsThatTheLibraryGivesAreRecordedToo) {
   Bench bench;
   bench.scripted.On(operations::queue_request::kReadResponse, [&](const Arguments&) {

@@ -36,7 +36,7 @@ TEST(ValueView, OfEveryKindIsTheSameValueWhenCopied) {
   }
 }
 
-TEST(ValueView, TellsItsKindInWords) {
+TEST(ValueView, TellsItsKindInWordsAsItsValueDoes) {
   const std::vector<std::pair<Value, std::wstring_view>> kinds = {
       {Value(), L"nothing"},
       {Value(Missing{}), L"a missing argument"},
@@ -49,7 +49,10 @@ TEST(ValueView, TellsItsKindInWords) {
       {Value(IntegerArray()), L"an array of integers"},
       {Value(DoubleArray()), L"an array of doubles"},
       {Value(ObjectPtr()), L"an object"}};
-  for (const auto& [value, words] : kinds) EXPECT_EQ(ValueView(value).Kind(), words);
+  for (const auto& [value, words] : kinds) {
+    EXPECT_EQ(ValueView(value).Kind(), words);
+    EXPECT_EQ(value.Kind(), words);
+  }
 }
 
 TEST(ValueView, IsAskedForItsKindAsAValueIs) {
