@@ -22,17 +22,22 @@ class ClosingAgent : public ReadyAgent {
   ui::Form* shown_ = nullptr;
 };
 
+Recording RunUpToItsDialog(hostlib::Library& library) {
+  Recording recording;
+  ClosingAgent agent;
+  RecordingLibrary recorded(library, recording);
+  app::RunProgram(recorded, agent, platform::WindowsPlatform());
+  return recording;
+}
+
 }  // namespace
 
-HostCalls::HostCalls(hostlib::Library& library) : library_(library) {
-  ClosingAgent agent;
-  RecordingLibrary recorded(library, recording_);
-  app::RunProgram(recorded, agent, platform::WindowsPlatform());
-}
+HostCalls::HostCalls(hostlib::Library& library)
+    : library_(library), replay_(RunUpToItsDialog(library)) {}
 
 Milliseconds HostCalls::Measure() {
   const auto begin = std::chrono::steady_clock::now();
-  Replay(recording_, library_);
+  replay_.Run(library_);
   times_.emplace_back(std::chrono::steady_clock::now() - begin);
   return times_.back();
 }

@@ -21,7 +21,7 @@ class HostCalls {
 
  private:
   hostlib::Library& library_;
-  Recording recording_;
+  Replay replay_;
   std::vector<Milliseconds> times_;
 };
 
