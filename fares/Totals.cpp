@@ -91,10 +91,13 @@ void Totals::AddTaxes() {
   std::vector<std::wstring> items = LeadingItems(tst_.strTaxList);
   if (taxes_.empty()) {
     taxes_ = std::move(items);
-  } else {
-    for (const std::wstring& item : items) AddTax(item);
+    return;
   }
-  mco_.strTaxList = JoinItems(taxes_);
+  for (const std::wstring& item : items) AddTax(item);
+}
+
+void Totals::JoinTaxes() {
+  if (!taxes_.empty()) mco_.strTaxList = JoinItems(taxes_);
 }
 
 void Totals::AddTax(std::wstring_view item) {

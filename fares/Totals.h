@@ -19,14 +19,16 @@ class Totals {
   Totals(const Amounts& amounts, const settings::Settings& settings, const tst::TSTTotals& tst,
          pnr::MCOInfo& mco, pnr::PNRInfo& pnr, ui::TextBox& txtPTA, errors::ErrorHandler& errors);
 
-  /// Adds the values of the TST read last.
+  /// Adds the values of the TST read last; its taxes to those gathered so far.
   void AddTSTValues();
+  /// MCOInfo.strTaxList from the taxes gathered, once all TSTs are added; left alone without any.
+  void JoinTaxes();
   /// MCOInfo.strTotalFare from the (equivalent) fare and the taxes.
   void CalculateTotalFare();
   /// PNRInfo.strRMPTATotal and the dialog's field.
   void BuildPTATotalRemark();
 
-  /// The tax items in MCOInfo's list.
+  /// The tax items gathered.
   int TaxCount() const { return static_cast<int>(taxes_.size()); }
 
  private:

@@ -37,7 +37,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     fares::FaresBench bench(symbol);
     AddTST(bench, lines, 0);
     if (!bench.stop.isSet) AddTST(bench, lines, 6);
-    if (!bench.stop.isSet) bench.sums.CalculateTotalFare();
+    if (!bench.stop.isSet) {
+      bench.sums.JoinTaxes();
+      bench.sums.CalculateTotalFare();
+    }
     bench.sums.BuildPTATotalRemark();
     fares::AmountIn(fuzz::Line(lines, 1));
     // Nothing but a report: every failure is shown in the words of its procedure.

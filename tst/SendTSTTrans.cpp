@@ -120,6 +120,7 @@ void SendTSTTrans::ReadPickedTST(const std::wstring& tstNumber, const std::wstri
 }
 
 void SendTSTTrans::DeriveMCOData() {
+  sums_.JoinTaxes();
   pnr::MCOInfo& mco = records_.mco;
   const TSTGeneral& general = records_.general;
   mco.strFlightInfo =

@@ -46,6 +46,11 @@ struct FaresBench : support::RoomBench {
     totals.strTaxList = taxes;
     sums.AddTSTValues();
   }
+  /// The document's list of the taxes added so far.
+  const std::wstring& JoinedTaxes() {
+    sums.JoinTaxes();
+    return mco.strTaxList;
+  }
   void AddFare(std::wstring_view fare) {
     totals = {};
     totals.strFare = fare;

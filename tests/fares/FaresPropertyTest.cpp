@@ -77,6 +77,7 @@ Sums SumsOf(const std::vector<tst::TSTTotals>& tsts) {
     bench.totals = tst;
     bench.sums.AddTSTValues();
   }
+  bench.sums.JoinTaxes();
   const std::wstring total = bench.mco.strTotalFare;
   bench.sums.CalculateTotalFare();
   return {bench.mco.strFare, bench.mco.strNetFare, total, bench.mco.strTotalFare,
@@ -100,6 +101,7 @@ TEST(FaresProperties, TheTotalIsTheFareAndTheTaxes) {
     FaresBench bench;
     bench.totals = PlainTST(dice);
     bench.sums.AddTSTValues();
+    bench.sums.JoinTaxes();
     bench.sums.CalculateTotalFare();
     double expected = common::HostNumber(WithoutCurrency(bench.totals.strFare));
     for (const std::wstring& item : SplitItems(bench.totals.strTaxList)) {
@@ -160,6 +162,7 @@ TEST(FaresProperties, WhateverTheHostWritesTheSumsReportOrHoldADigit) {
       bench.totals.strXFTax = dice.TextOf(L"LAX0123456789.;", 12);
       bench.sums.AddTSTValues();
     }
+    bench.sums.JoinTaxes();
     bench.sums.CalculateTotalFare();
     if (bench.stop.isSet) continue;
     ASSERT_TRUE(common::Like(bench.mco.strFare, L"SEK#*")) << bench.mco.strFare;

@@ -58,7 +58,7 @@ TEST(TaxList, ASecondTSTsTaxesAreAddedByTheirCodes) {
     FaresBench bench;
     bench.AddTaxes(first);
     bench.AddTaxes(second);
-    EXPECT_EQ(bench.mco.strTaxList, sum) << first << L" + " << second;
+    EXPECT_EQ(bench.JoinedTaxes(), sum) << first << L" + " << second;
     EXPECT_EQ(bench.TakeCalls(), Lines{}) << first << L" + " << second;
   }
 }
@@ -67,73 +67,73 @@ TEST(TaxList, QuirkDecimalsOfALaterTSTCountAsPartOfTheCode) {
   FaresBench bench;
   bench.AddTaxes(L"SEK100XT;");
   bench.AddTaxes(L"SEK120.50XT;");
-  EXPECT_EQ(bench.mco.strTaxList, L"SEK100XT;SEK120.50XT") << "no XT, but another tax: .50XT";
+  EXPECT_EQ(bench.JoinedTaxes(), L"SEK100XT;SEK120.50XT") << "no XT, but another tax: .50XT";
   bench.AddTaxes(L"SEK7.50XT;");
-  EXPECT_EQ(bench.mco.strTaxList, L"SEK100XT;SEK128.50XT") << "7.50 is 8, and 120 + 8 is 128";
+  EXPECT_EQ(bench.JoinedTaxes(), L"SEK100XT;SEK128.50XT") << "7.50 is 8, and 120 + 8 is 128";
 }
 
 TEST(TaxList, QuirkLeadingZerosOfALaterTSTCountAsPartOfTheCode) {
   FaresBench bench;
   bench.AddTaxes(L"SEK101XT;");
   bench.AddTaxes(L"SEK0120XT;");
-  EXPECT_EQ(bench.mco.strTaxList, L"SEK101XT;SEK1200XT") << "120, and the code 0XT";
+  EXPECT_EQ(bench.JoinedTaxes(), L"SEK101XT;SEK1200XT") << "120, and the code 0XT";
 }
 
 TEST(TaxList, QuirkSuchACodeMatchesAnAmountThatEndsInTheSameDigits) {
   FaresBench bench;
   bench.AddTaxes(L"SEK100XT;");
   bench.AddTaxes(L"SEK0120XT;");
-  EXPECT_EQ(bench.mco.strTaxList, L"SEK2200XT") << "100 + 120, and the code 0XT";
+  EXPECT_EQ(bench.JoinedTaxes(), L"SEK2200XT") << "100 + 120, and the code 0XT";
 }
 
 TEST(TaxList, QuirkATaxWithoutAnAmountLosesTheFirstLetterOfItsCode) {
   FaresBench bench;
   bench.AddTaxes(L"SEK100XT;");
   bench.AddTaxes(L"SEKXT;");
-  EXPECT_EQ(bench.mco.strTaxList, L"SEK100T") << "the amount is 0, one digit, so the code is T";
+  EXPECT_EQ(bench.JoinedTaxes(), L"SEK100T") << "the amount is 0, one digit, so the code is T";
 }
 
 TEST(TaxList, QuirkACodeThatOccursInACurrencyMatchesThatItem) {
   FaresBench bench;
   bench.AddTaxes(L"SEK100XT;SEK20SE;");
   bench.AddTaxes(L"SEK5SE;");
-  EXPECT_EQ(bench.mco.strTaxList, L"SEK105SE;SEK20SE") << "XT has become SE";
+  EXPECT_EQ(bench.JoinedTaxes(), L"SEK105SE;SEK20SE") << "XT has become SE";
 }
 
 TEST(TaxList, QuirkACodeOfDigitsMatchesAnAmount) {
   FaresBench bench;
   bench.AddTaxes(L"SEK100XT;");
   bench.AddTaxes(L"SEK00;");
-  EXPECT_EQ(bench.mco.strTaxList, L"SEK1000") << "the code is 0, and it occurs in 100";
+  EXPECT_EQ(bench.JoinedTaxes(), L"SEK1000") << "the code is 0, and it occurs in 100";
 }
 
 TEST(TaxList, QuirkTaxesOfDifferentCurrenciesAreSummedUnderTheDocuments) {
   FaresBench bench;
   bench.AddTaxes(L"NOK100XT;");
   bench.AddTaxes(L"USD5XT;EUR7YQ;");
-  EXPECT_EQ(bench.mco.strTaxList, L"SEK105XT;SEK7YQ");
+  EXPECT_EQ(bench.JoinedTaxes(), L"SEK105XT;SEK7YQ");
 }
 
 TEST(TaxList, QuirkANewTaxOfZeroIsDroppedButThoseOfTheFirstTSTAreKept) {
   FaresBench bench;
   bench.AddTaxes(L"SEK0YR;");
   bench.AddTaxes(L"SEK0YQ;SEK0YR;");
-  EXPECT_EQ(bench.mco.strTaxList, L"SEK0YR");
+  EXPECT_EQ(bench.JoinedTaxes(), L"SEK0YR");
 }
 
-TEST(TaxList, ASumPastTheWidthIsReportedAndTheListOfTheDocumentStays) {
+TEST(TaxList, ASumPastTheWidthIsReportedAndTheHeldItemStays) {
   FaresBench bench;
   bench.AddTaxes(L"SEK2147483647XT;");
   bench.AddTaxes(L"SEK1XT;");
   EXPECT_EQ(bench.TakeCalls(), Lines{kReport21});
-  EXPECT_EQ(bench.mco.strTaxList, L"SEK2147483647XT");
+  EXPECT_EQ(bench.JoinedTaxes(), L"SEK2147483647XT");
   EXPECT_TRUE(bench.stop.isSet);
 }
 
 TEST(TaxList, TheFirstTSTsTaxesAreNotRead) {
   FaresBench bench;
   bench.AddTaxes(L"SEK9999999999XT;");
-  EXPECT_EQ(bench.mco.strTaxList, L"SEK9999999999XT");
+  EXPECT_EQ(bench.JoinedTaxes(), L"SEK9999999999XT");
   EXPECT_EQ(bench.TakeCalls(), Lines{});
 }
 
@@ -141,7 +141,16 @@ TEST(TaxList, AnEmptyListLeavesTheDocumentsAlone) {
   FaresBench bench;
   bench.mco.strTaxList = L"from elsewhere";
   bench.AddTaxes(L"");
-  EXPECT_EQ(bench.mco.strTaxList, L"from elsewhere");
+  EXPECT_EQ(bench.JoinedTaxes(), L"from elsewhere");
+}
+
+TEST(TaxList, TheTaxesOfSeveralTSTsAreJoinedOnDemand) {
+  FaresBench bench;
+  bench.AddTaxes(L"SEK120XT;");
+  bench.AddTaxes(L"SEK40YQ;");
+  EXPECT_EQ(bench.mco.strTaxList, L"");
+  bench.sums.JoinTaxes();
+  EXPECT_EQ(bench.mco.strTaxList, L"SEK120XT;SEK40YQ");
 }
 
 TEST(TaxList, TheNumberOfHeldItemsIsKnown) {

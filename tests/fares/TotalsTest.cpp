@@ -150,7 +150,7 @@ TEST(AddTSTValues, TheFieldsAreAddedInTheirOrderUpToTheFirstFailure) {
     }
     const bool beyondTheTourCode = bad + 1 == std::size(kOrder);
     EXPECT_EQ(bench.mco.strTourCode, beyondTheTourCode ? L"IT1" : L"") << bad;
-    EXPECT_EQ(bench.mco.strXFTax + bench.mco.strTaxList, L"") << bad;
+    EXPECT_EQ(bench.mco.strXFTax + bench.JoinedTaxes(), L"") << bad;
   }
 }
 
@@ -193,7 +193,7 @@ TEST(AddTSTValues, AnXFTaxWithoutAnAmountIsReportedAsTheReadingOfAnAmount) {
     bench.sums.AddTSTValues();
     EXPECT_EQ(bench.TakeCalls(), Lines{kReport26});
     EXPECT_EQ(bench.mco.strXFTax, L"LAX4.5");
-    EXPECT_EQ(bench.mco.strTaxList, L"SEK1XT");
+    EXPECT_EQ(bench.JoinedTaxes(), L"SEK1XT");
     EXPECT_TRUE(bench.stop.isSet);
   }
 }
@@ -288,7 +288,7 @@ TEST(AddTSTValues, TheOrdinaryBookingIsTakenAsItStands) {
   bench.sums.AddTSTValues();
   EXPECT_EQ(bench.mco.strFare, L"SEK1000");
   EXPECT_EQ(bench.mco.strTotalFare, L"SEK1160");
-  EXPECT_EQ(bench.mco.strTaxList, L"SEK120XT;SEK40YQ");
+  EXPECT_EQ(bench.JoinedTaxes(), L"SEK120XT;SEK40YQ");
   EXPECT_EQ(bench.mco.strEquivalentFare, L"");
   EXPECT_EQ(bench.TakeCalls(), Lines{}) << "sums ask the library nothing";
 }

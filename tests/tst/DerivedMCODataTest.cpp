@@ -45,6 +45,36 @@ TEST(DerivedMCOData, ABlankAtTheEndDoesNotJoinSegments) {
   EXPECT_EQ(bench.mco.strSegAsso, L"2 + ");
 }
 
+TEST(DerivedMCOData, TheTaxesOfAllPickedTSTsAreOneList) {
+  SelectionBench bench;
+  bench.HasList({{.number = L"1"}, {.number = L"2"}, {.number = L"3"}});
+  bench.Shows({.number = L"2", .taxes = {L"SEK5DK", L"SEK120XT"}});
+  bench.AgentPicks({0, 1, 2});
+  bench.room.ReadTSTList();
+  EXPECT_EQ(bench.mco.strTaxList, L"SEK360XT;SEK80YQ;SEK5DK");
+}
+
+TEST(DerivedMCOData, ATSTThatFailsLeavesTheDocumentWithoutTaxes) {
+  SelectionBench bench;
+  bench.HasList({{.number = L"1"}, {.number = L"2"}});
+  bench.Shows({.number = L"2", .taxes = {L"SEK5DK", L"SEK2147483647XT"}});
+  bench.AgentPicks({0, 1});
+  bench.room.ReadTSTList();
+  EXPECT_TRUE(bench.stop.isSet);
+  EXPECT_EQ(bench.mco.strTaxList, L"") << "nothing is built on what was read by halves";
+}
+
+TEST(DerivedMCOData, AReissueOfSeveralTSTsIsComputedFromAllTheirTaxes) {
+  SelectionBench bench;
+  bench.HasList({{.number = L"1"}, {.number = L"2"}});
+  for (const wchar_t* number : {L"1", L"2"}) {
+    bench.Shows({.number = number, .totalFare = L"SEK0", .isReissue = true});
+  }
+  bench.AgentPicks({0, 1});
+  bench.room.ReadTSTList();
+  EXPECT_EQ(bench.mco.strTotalFare, L"SEK2320");
+}
+
 TEST(DerivedMCOData, AReissueWithTotal0GetsItsTotalComputed) {
   SelectionBench bench;
   bench.HasOneTST({.totalFare = L"SEK0", .isReissue = true});

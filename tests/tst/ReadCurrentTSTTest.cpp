@@ -28,6 +28,7 @@ TEST(ReadCurrentTST, TheAmountsOfTwoPassengersAreDoubledInTheSumsAlone) {
   bench.pnrNames = {L"1.A/A MR", L"2.B/B MR"};
   bench.ReadAndFile(ForTwo(L"1"));
   EXPECT_EQ(bench.mco.strFare, L"SEK2000");
+  bench.sums.JoinTaxes();
   EXPECT_EQ(bench.mco.strTaxList, L"SEK240XT;SEK80YQ");
   EXPECT_EQ(bench.mco.strTotalFare, L"SEK2320");
   EXPECT_EQ(bench.tsts.begin()->strFare, L"SEK1000");
