@@ -4,12 +4,12 @@ namespace ui {
 
 namespace {
 
-/// Most forms have no more.
-constexpr std::size_t kFewControls = 8;
+/// No form has more.
+constexpr std::size_t kMostControls = 64;
 
 }  // namespace
 
-Form::Form(common::Literal name) : name_(name) { controls_.reserve(kFewControls); }
+Form::Form(common::Literal name) : name_(name) { controls_.reserve(kMostControls); }
 
 Form::~Form() {
   if (visible_ && view_ != nullptr) view_->FormGone(*this);
