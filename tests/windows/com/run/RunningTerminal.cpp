@@ -19,11 +19,21 @@ RunningTerminal::RunningTerminal() {
 }
 
 RunningTerminal::~RunningTerminal() {
-  terminal_ = nullptr;
-  // One that only served objects ends by itself, and must, before the next test starts its own.
-  EXPECT_TRUE(driver::Holds([] { return terminal::Running() == 0; }));
+  EXPECT_TRUE(End()) << "a terminal is still running";
   std::error_code ignored;
   std::filesystem::remove_all(platform_.folder, ignored);
+}
+
+void RunningTerminal::Start() {
+  // After a kill one that Wine was about to start may be left, which asks for nothing and is asked
+  // for nothing: the next one is started all the same.
+  End();
+  terminal_ = std::make_unique<terminal::PracticeTerminal>();
+}
+
+bool RunningTerminal::End() {
+  terminal_ = nullptr;
+  return driver::Holds([] { return terminal::Running() == 0; });
 }
 
 void RunningTerminal::Set(const practice::RehearsalScene& scene) {

@@ -48,10 +48,7 @@ class RunningTerminal : public testing::Test {
   ~RunningTerminal() override;
 
   /// A new one; there is only one at a time.
-  void Start() {
-    terminal_ = nullptr;
-    terminal_ = std::make_unique<terminal::PracticeTerminal>();
-  }
+  void Start();
 
   /// The scene's booking, INI file and stored office.
   void Set(const practice::RehearsalScene& scene);
@@ -65,6 +62,10 @@ class RunningTerminal : public testing::Test {
   FixedDay platform_;
 
  private:
+  /// Ends the terminal, and waits for the end of those that the system started to serve objects:
+  /// they end by themselves, and the next one's clients might still be sent to them. False when one
+  /// does not end.
+  bool End();
   void WriteIni(const std::wstring& ini);
   void StoreOffice(const practice::RehearsalScene& scene);
 };
