@@ -50,11 +50,15 @@ std::wstring Remarks(int count) {
   return lines;
 }
 
-std::wstring Fare(int names, int number, bool forOneName) {
+std::wstring Fare(const Size& size, int number) {
+  const int names = size.names;
   std::wstring passengers = L"P1-" + std::to_wstring(names);
-  if (forOneName || names == 1) passengers = L"P" + std::to_wstring((number - 1) % names + 1);
-  return L"TS FARE SEK" + std::to_wstring(1000 + number) +
-         L",IND F,TAX SEK120XT,TAX SEK40YQ,TOTAL SEK" + std::to_wstring(1160 + number) +
+  if (size.tstEachName || names == 1) {
+    passengers = L"P" + std::to_wstring((number - 1) % names + 1);
+  }
+  const std::wstring ownTax = size.taxEachTST ? L",TAX SEK9" + Letters(number) : L"";
+  return L"TS FARE SEK" + std::to_wstring(1000 + number) + L",IND F,TAX SEK120XT,TAX SEK40YQ" +
+         ownTax + L",TOTAL SEK" + std::to_wstring(1160 + number) +
          L",CALC STO SK CPH500SK STO500SEK1000END,BASIS YRT,SALES SITI [" + passengers + L" S" +
          std::to_wstring(names + 1) + L"-" + std::to_wstring(names + 2) + L"]\n";
 }
@@ -67,7 +71,7 @@ Booking OrdinaryBooking() {
 
 Booking BookingOf(const Size& size) {
   std::wstring entries = Names(size.names) + Elements(size.names) + Remarks(size.remarks);
-  for (int i = 1; i <= size.tsts; ++i) entries += Fare(size.names, i, size.tstEachName);
+  for (int i = 1; i <= size.tsts; ++i) entries += Fare(size, i);
   entries += L"TM FEE 250,AMOUNT SEK1160,FOP CASH [P1 S" + std::to_wstring(size.names + 1) + L"-" +
              std::to_wstring(size.names + 2) + L"]\nTR LOCATOR ABC123\n";
   return {entries, OrdinaryBooking().ini};

@@ -10,6 +10,7 @@ struct Size {
   int tsts = 1;
   int remarks = 0;
   bool tstEachName = false;  ///< a TST for each name in turn, else every TST for all names
+  bool taxEachTST = false;   ///< every TST has a tax code of its own besides the usual two
 };
 
 struct Booking {

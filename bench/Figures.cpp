@@ -22,9 +22,4 @@ void Figures::Print() const {
   for (const auto& [name, time] : fastest_) std::printf("  %-40s %10.1f\n", name.c_str(), time);
 }
 
-void PrintFigure(const std::string& what, double figure, double atMost) {
-  std::printf("  %-52s %7.2f  (at most %.2f: %s)\n", what.c_str(), figure, atMost,
-              figure <= atMost ? "met" : "MISSED");
-}
-
 }  // namespace bench

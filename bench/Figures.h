@@ -17,13 +17,12 @@ class Figures : public benchmark::BenchmarkReporter {
   bool Has(const std::string& name) const { return fastest_.contains(name); }
   /// Microseconds; throws std::out_of_range for a benchmark that has not run.
   double Of(const std::string& name) const { return fastest_.at(name); }
+  /// All of them, by the names of the benchmarks.
+  const std::map<std::string, double>& fastest() const { return fastest_; }
   void Print() const;
 
  private:
   std::map<std::string, double> fastest_;
 };
-
-/// One line: a figure with its goal, "met" or "MISSED".
-void PrintFigure(const std::string& what, double figure, double atMost);
 
 }  // namespace bench

@@ -3,6 +3,8 @@
 #include <cstdio>
 #include <functional>
 
+#include "bench/Print.h"
+
 namespace bench {
 namespace {
 
