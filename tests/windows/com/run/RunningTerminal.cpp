@@ -25,8 +25,8 @@ RunningTerminal::~RunningTerminal() {
 }
 
 void RunningTerminal::Start() {
-  // After a kill one that Wine was about to start may be left, which asks for nothing and is asked
-  // for nothing: the next one is started all the same.
+  // Now and then one that Wine has started after a kill does not end. The next one has always been
+  // answered beside it.
   End();
   terminal_ = std::make_unique<terminal::PracticeTerminal>();
 }
