@@ -16,9 +16,9 @@ class AnsweringLibrary::Answerer : public hostlib::Object {
   std::wstring_view ClassName() const override { return className_; }
 
   Value Call(int slot, const Arguments&) override {
-    Answer& answer = library_.Next(Step::Kind::kCall, slot);
+    const Answers::Answer& answer = library_.Next(Step::Kind::kCall, slot);
     if (answer.isObject) return ObjectPtr(std::make_shared<Answerer>(library_, answer.className));
-    return std::move(answer.value);
+    return answer.value;
   }
 
   ObjectPtr Interface(int number) override {
@@ -31,20 +31,11 @@ class AnsweringLibrary::Answerer : public hostlib::Object {
   std::wstring_view className_;
 };
 
-AnsweringLibrary::AnsweringLibrary(const Recording& recording) {
-  answers_.reserve(recording.steps.size());
-  for (const Step& step : recording.steps) {
-    if (step.kind == Step::Kind::kRelease) continue;
-    answers_.push_back(
-        {step.kind, step.number, step.made != Step::kNone, step.className, step.answer});
-  }
-}
-
 ObjectPtr AnsweringLibrary::Create(std::wstring_view) {
   return std::make_shared<Answerer>(*this, Next(Step::Kind::kCreate, 0).className);
 }
 
-AnsweringLibrary::Answer& AnsweringLibrary::Next(Step::Kind kind, int number) {
+const Answers::Answer& AnsweringLibrary::Next(Step::Kind kind, int number) {
   if (at_ == answers_.size() || answers_[at_].kind != kind || answers_[at_].number != number) {
     throw std::logic_error("the run does not do what the recorded one did");
   }

@@ -1,28 +1,21 @@
 #pragma once
 
-#include "bench/Recording.h"
+#include "bench/Answers.h"
 
 namespace bench {
 
-/// A library that answers from a recording without doing anything: what a run against it takes is
+/// A library that gives recorded answers without doing anything: what a run against it takes is
 /// the program's own. Good for one run, which must do what the recorded one did.
 class AnsweringLibrary : public hostlib::Library {
  public:
-  explicit AnsweringLibrary(const Recording& recording);
+  explicit AnsweringLibrary(const Answers& answers) : answers_(answers) {}
   hostlib::ObjectPtr Create(std::wstring_view className) override;
 
  private:
-  struct Answer {
-    Step::Kind kind;
-    int number;
-    bool isObject;
-    std::wstring className;
-    hostlib::Value value;
-  };
   class Answerer;
-  Answer& Next(Step::Kind kind, int number);
+  const Answers::Answer& Next(Step::Kind kind, int number);
 
-  std::vector<Answer> answers_;
+  const Answers& answers_;
   std::size_t at_ = 0;
 };
 

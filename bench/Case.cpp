@@ -3,6 +3,7 @@
 #include <stdexcept>
 
 #include "app/Program.h"
+#include "bench/AnsweringLibrary.h"
 #include "common/Text.h"
 
 namespace bench {
@@ -29,6 +30,7 @@ Case::Case(const Booking& booking) : before_(booking) {
   pnrAfter_ = recorded.host.PnrText();
   Demand(common::Contains(pnrAfter_, L" FO 117-4012345678 STO "), "the recorded run wrote no PTA");
 
+  answers_ = std::make_unique<Answers>(recording);
   replay_ = std::make_unique<Replay>(std::move(recording));
   Workplace replayed = Prepare();
   ReplayBare(replayed);
@@ -41,7 +43,8 @@ void Case::Run(Workplace& place) const {
 
 void Case::ReplayBare(Workplace& place) { replay_->Run(place.library()); }
 
-void Case::RunAlone(Workplace& place, AnsweringLibrary& library) const {
+void Case::RunAlone(Workplace& place) const {
+  AnsweringLibrary library(*answers_);
   app::RunProgram(library, place.agent, place.platform);
 }
 

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "bench/AnsweringLibrary.h"
+#include "bench/Answers.h"
 #include "bench/Workplace.h"
 
 namespace bench {
@@ -16,14 +16,13 @@ class Case {
   explicit Case(const Booking& booking);
 
   Workplace Prepare() const { return before_; }
-  AnsweringLibrary PrepareAnswers() const { return AnsweringLibrary(recording()); }
 
   /// The whole program against the practice library.
   void Run(Workplace& place) const;
   /// The library calls of such a run, and nothing else.
   void ReplayBare(Workplace& place);
   /// The whole program against recorded answers.
-  void RunAlone(Workplace& place, AnsweringLibrary& library) const;
+  void RunAlone(Workplace& place) const;
 
   const Recording& recording() const { return replay_->recording(); }
   const std::wstring& pnrAfter() const { return pnrAfter_; }
@@ -31,6 +30,7 @@ class Case {
  private:
   Workplace before_;
   std::unique_ptr<Replay> replay_;
+  std::unique_ptr<Answers> answers_;
   std::wstring pnrAfter_;
 };
 

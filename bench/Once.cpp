@@ -25,8 +25,7 @@ bool DoOnce(bench::Case& measured, const std::string& what) {
   } else if (what == "calls") {
     MeasuredPart([&] { measured.ReplayBare(place); });
   } else if (what == "alone") {
-    bench::AnsweringLibrary answers = measured.PrepareAnswers();
-    MeasuredPart([&] { measured.RunAlone(place, answers); });
+    MeasuredPart([&] { measured.RunAlone(place); });
   } else {
     return false;
   }

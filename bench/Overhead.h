@@ -17,7 +17,4 @@ class Overhead {
   Case largest_{BookingOf(LargestSize())};
 };
 
-/// Registers one benchmark of a case's run against recorded answers.
-void RegisterAlone(const std::string& name, const Case& measured);
-
 }  // namespace bench
