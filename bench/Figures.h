@@ -8,19 +8,16 @@
 
 namespace bench {
 
-/// The CPU time of every benchmark's repetitions, in microseconds. What other processes take away
-/// of a core's speed only ever adds to it.
+/// The CPU time of every benchmark's repetitions, of which the one counts that a tenth of them
+/// beats: what other processes take away of a core's speed only ever adds to it, and the very
+/// fastest finds more than usual in the processor's memories.
 class Figures : public benchmark::BenchmarkReporter {
  public:
   bool ReportContext(const Context&) override { return true; }
   void ReportRuns(const std::vector<Run>& runs) override;
 
-  bool Has(const std::string& name) const { return times_.contains(name); }
-  /// Throws std::out_of_range for a benchmark that has not run.
-  double FastestOf(const std::string& name) const;
-  /// Of all of them, by the names of the benchmarks: the time that a tenth of the repetitions
-  /// beats.
-  std::map<std::string, double> LowestTenths() const;
+  /// Microseconds, by the names of the benchmarks that have run.
+  std::map<std::string, double> Times() const;
   void Print() const;
 
  private:

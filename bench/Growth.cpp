@@ -41,7 +41,7 @@ void Growth::Register(const std::string& name, const Case& measured) {
 // leaves.
 void Growth::Print(const Figures& figures) const {
   std::printf("\nTen times the work, in times of the program's own time (linear is 10)\n");
-  PrintGrowth(figures.LowestTenths());
+  PrintGrowth(figures.Times());
 }
 
 }  // namespace bench

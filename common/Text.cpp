@@ -107,13 +107,12 @@ std::wstring Right(std::wstring_view text, int count) {
   return std::wstring(text.substr(text.size() - std::min(Count(count), text.size())));
 }
 
-std::wstring LeftTrim(std::wstring_view text) {
-  const std::size_t first = text.find_first_not_of(L' ');
-  return first == text.npos ? std::wstring() : std::wstring(text.substr(first));
+std::wstring_view LeftTrim(std::wstring_view text) {
+  return text.substr(std::min(text.find_first_not_of(L' '), text.size()));
 }
 
 std::wstring Trim(std::wstring_view text) {
-  return LeftTrim(text.substr(0, text.find_last_not_of(L' ') + 1));
+  return std::wstring(LeftTrim(text.substr(0, text.find_last_not_of(L' ') + 1)));
 }
 
 int InStr(std::wstring_view text, std::wstring_view sought) {

@@ -17,9 +17,10 @@ std::wstring Left(std::wstring_view text, int count);
 /// The last `count` characters; a negative count is a RunTimeError.
 std::wstring Right(std::wstring_view text, int count);
 
-/// Blanks (U+0020) only: tabs, line ends and no-break blanks stay.
+/// Blanks (U+0020) only: tabs, line ends and no-break blanks stay. What is left of the left one lies
+/// within the text.
 std::wstring Trim(std::wstring_view text);
-std::wstring LeftTrim(std::wstring_view text);
+std::wstring_view LeftTrim(std::wstring_view text);
 
 /// The position of the first occurrence, 0 when there is none. An empty text sought is found at 1,
 /// but nowhere in an empty text.
