@@ -16,6 +16,11 @@
 
 namespace {
 
+int CannotRun(ui::Desktop& desktop, const std::wstring& reason) {
+  desktop.ShowBox(reason, common::kCritical, common::kTitle);
+  return 1;
+}
+
 /// The program's run against the script library that is installed on this machine, or the box that
 /// says why there is none.
 int Run(journal::RunJournal& journal, const platform::Platform& machine) {
@@ -27,9 +32,10 @@ int Run(journal::RunJournal& journal, const platform::Platform& machine) {
     hostlib::com::ComLibrary link(installed);
     hostlib::com::CheckedLibrary library(link);
     return app::RunProgram(journal.Before(library), desktop, machine);
+  } catch (const hostlib::com::LibraryDoesNotFit& misfit) {
+    return CannotRun(desktop, misfit.words);
   } catch (const hostlib::LibraryError& error) {
-    desktop.ShowBox(error.description(), common::kCritical, common::kTitle);
-    return 1;
+    return CannotRun(desktop, error.description());
   }
 }
 

@@ -1,5 +1,7 @@
 #include "hostlib/com/LibraryCheck.h"
 
+#include <algorithm>
+#include <iterator>
 #include <map>
 #include <set>
 #include <utility>
@@ -31,13 +33,13 @@ std::wstring Words(const Operation& operation, const std::wstring& fault) {
 class LibraryCheck {
  public:
   LibraryCheck(ComLibrary& library, std::span<const Operation> used)
-      : library_(library), used_(used) {}
+      : library_(library), used_(used), isThere_(library.HasBound()) {}
 
   std::vector<std::wstring> Faults() {
     std::vector<std::wstring> wrong;
     for (const Operation& operation : used_) wrong.push_back(WhatIsWrongWith(operation));
     // Without a single object there is no library or no terminal, which is for the run to find.
-    if (held_.empty()) return {};
+    if (!isThere_ && !HasMade()) return {};
     std::vector<std::wstring> faults;
     for (std::size_t i = 0; i < used_.size(); ++i) {
       const std::wstring fault = FaultOf(used_[i], wrong[i]);
@@ -46,6 +48,7 @@ class LibraryCheck {
     return faults;
   }
 
+  bool HasMade() const { return !held_.empty(); }
   std::vector<ObjectPtr> Made() const {
     std::vector<ObjectPtr> made;
     for (const auto& [className, object] : held_) {
@@ -106,6 +109,7 @@ class LibraryCheck {
 
   ComLibrary& library_;
   std::span<const Operation> used_;
+  const bool isThere_;
   std::map<std::wstring_view, ComPtr<IDispatch>> held_;
   std::map<std::wstring_view, HRESULT> notMade_;
   std::set<std::wstring_view> told_;
@@ -132,26 +136,31 @@ std::vector<ObjectPtr> CheckUsedOperations(ComLibrary& library, std::span<const 
                      LibraryError::Outcome::kNotSent);
 }
 
-CheckedLibrary::CheckedLibrary(ComLibrary& library, std::span<const Operation> used)
-    : library_(library) {
+ObjectPtr CheckedLibrary::Create(std::wstring_view className) {
+  if (isChecked_) return library_.Create(className);
   try {
-    ofTheCheck_ = CheckUsedOperations(library, used);
-  } catch (const LibraryError& error) {
-    if (error.number() == kLibraryDoesNotFit) throw;
-    failure_ = error;
+    for (const ObjectPtr& made : CheckBefore(className)) {
+      if (made->ClassName() == className) return made;
+    }
+  } catch (LibraryError& error) {
+    if (error.number() == kLibraryDoesNotFit) throw LibraryDoesNotFit{error.description()};
+    error.Locate(className, L"Create");
+    throw;
   }
+  return library_.Create(className);
 }
 
-ObjectPtr CheckedLibrary::Create(std::wstring_view className) {
-  if (!failure_) {
-    for (const ObjectPtr& ready : std::exchange(ofTheCheck_, {})) {
-      if (ready->ClassName() == className) return ready;
-    }
-    return library_.Create(className);
+std::vector<ObjectPtr> CheckedLibrary::CheckBefore(std::wstring_view className) {
+  if (!std::exchange(hasBegun_, true)) {
+    std::vector<Operation> ofFirst;
+    std::ranges::copy_if(used_, std::back_inserter(ofFirst),
+                         [&](const Operation& operation) { return operation.object == className; });
+    LibraryCheck check(library_, ofFirst);
+    if (check.Faults().empty() && check.HasMade()) return check.Made();
   }
-  LibraryError failure = *failure_;
-  failure.Locate(className, L"Create");
-  throw failure;
+  std::vector<ObjectPtr> made = CheckUsedOperations(library_, used_);
+  isChecked_ = true;
+  return made;
 }
 
 }  // namespace hostlib::com

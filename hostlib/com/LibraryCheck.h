@@ -1,6 +1,5 @@
 #pragma once
 
-#include <optional>
 #include <span>
 #include <vector>
 
@@ -18,20 +17,31 @@ namespace hostlib::com {
 std::vector<ObjectPtr> CheckUsedOperations(ComLibrary& library,
                                            std::span<const Operation> used = AllOperations());
 
-/// The installed library as a run gets it: held against what the program uses, once, which throws
-/// as above when it does not fit. When it could not be asked, since its terminal went away or
+/// The installed library does not fit, in words for the agent and those who help. Deliberately no
+/// std::exception: whichever step asked for the object, its own words would name the wrong cause.
+struct LibraryDoesNotFit {
+  std::wstring words;
+};
+
+/// The installed library as a run gets it: held against what the program uses, once. What is used
+/// of the first object is looked at before that is given, all the rest before the second: the run's
+/// first window does not wait for it, and nothing of the host has been touched. Throws
+/// LibraryDoesNotFit then. When the library could not be asked, since its terminal went away or
 /// stayed busy, it makes no object, for that reason, and nothing is sent. Since another process is
-/// long in making an object, the first one that the run asks for is that of the check, if it made
-/// one of the class.
+/// long in making an object, what is given is that of the check, if it made one of the class.
 class CheckedLibrary : public Library {
  public:
-  explicit CheckedLibrary(ComLibrary& library, std::span<const Operation> used = AllOperations());
+  explicit CheckedLibrary(ComLibrary& library, std::span<const Operation> used = AllOperations())
+      : library_(library), used_(used) {}
   ObjectPtr Create(std::wstring_view className) override;
 
  private:
+  std::vector<ObjectPtr> CheckBefore(std::wstring_view className);
+
   ComLibrary& library_;
-  std::vector<ObjectPtr> ofTheCheck_;
-  std::optional<LibraryError> failure_;
+  std::span<const Operation> used_;
+  bool hasBegun_ = false;
+  bool isChecked_ = false;
 };
 
 }  // namespace hostlib::com

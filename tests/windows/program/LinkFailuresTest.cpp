@@ -104,7 +104,9 @@ class LibraryThatDoesNotFit : public LinkFailure, public testing::WithParamInter
 TEST_P(LibraryThatDoesNotFit, IsRefusedWithItsSlotBeforeAnythingIsSent) {
   const terminal::Unregistered other;
   const terminal::Registered misfit(terminal::Program(GetParam().terminal));
-  stage_.emplace(nullptr).Start();
+  const Program& program = stage_.emplace(nullptr).Start();
+  const HWND box = program.WaitForBox();
+  EXPECT_EQ(program.Windows(), std::vector<HWND>{box}) << "the progress window is left";
   SeeBox(std::wstring(L"The installed Vantel script library is not the one that this program "
                       L"needs.\n\n") +
          GetParam().words);
