@@ -37,8 +37,6 @@ void Growth::Register(const std::string& name, const Case& measured) {
       ->Repetitions(kRepetitions);
 }
 
-// Not of the fastest: now and then a cold start finds more than usual in the memories that it
-// leaves.
 void Growth::Print(const Figures& figures) const {
   std::printf("\nTen times the work, in times of the program's own time (linear is 10)\n");
   PrintGrowth(figures.Times());

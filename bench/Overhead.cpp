@@ -50,9 +50,8 @@ void RegisterBoth(const std::string& name, Case& measured) {
   Register(name + "/calls", measured, &Case::ReplayBare, &Case::Run);
 }
 
-using Times = std::map<std::string, double>;
-
-void PrintOne(const Times& times, const std::string& name, const std::string& booking) {
+void PrintOne(const std::map<std::string, double>& times, const std::string& name,
+              const std::string& booking) {
   const auto run = times.find(name + "/run");
   const auto calls = times.find(name + "/calls");
   if (run == times.end() || calls == times.end()) return;
@@ -69,8 +68,9 @@ Overhead::Overhead() {
 
 void Overhead::Print(const Figures& figures) const {
   std::printf("\nA whole run in CPU time\n");
-  PrintOne(figures.Times(), "ordinary", "ordinary booking");
-  PrintOne(figures.Times(), "largest", "largest booking");
+  const auto times = figures.Times();
+  PrintOne(times, "ordinary", "ordinary booking");
+  PrintOne(times, "largest", "largest booking");
 }
 
 }  // namespace bench

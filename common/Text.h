@@ -17,8 +17,8 @@ std::wstring Left(std::wstring_view text, int count);
 /// The last `count` characters; a negative count is a RunTimeError.
 std::wstring Right(std::wstring_view text, int count);
 
-/// Blanks (U+0020) only: tabs, line ends and no-break blanks stay. What is left of the left one lies
-/// within the text.
+/// Blanks (U+0020) only: tabs, line ends and no-break blanks stay. LeftTrim gives a part of the
+/// text itself, which must outlive it.
 std::wstring Trim(std::wstring_view text);
 std::wstring_view LeftTrim(std::wstring_view text);
 

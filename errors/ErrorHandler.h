@@ -24,8 +24,9 @@ class ErrorHandler {
                common::RunEnd& runEnd, StopFlag& stop);
 
   /// Runs a procedure's body. A failure in it is shown in the procedure's form, the rest of the
-  /// body is left, and the run goes on, is marked to stop, or ends, as the procedure says. The end
-  /// of the run passes through. True when the body completed.
+  /// body is left, and the run goes on, is marked to stop, or ends, as the procedure says. What is
+  /// no std::exception passes through: the end of the run, and that there is no library for it.
+  /// True when the body completed.
   bool Run(const Procedure& procedure, common::Body body);
 
   /// Shows a report from within a procedure: its text and `addition`, with its number and style.

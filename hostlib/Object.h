@@ -65,7 +65,8 @@ class Object {
   virtual ObjectPtr Interface(int number) = 0;
 };
 
-/// Makes objects by their class name, e.g. L"QueueRequest". Throws LibraryError.
+/// Makes objects by their class name, e.g. L"QueueRequest". Throws LibraryError, and, which no step
+/// of a run may handle, what says that there is no library to work with.
 class Library {
  public:
   virtual ~Library() = default;

@@ -6,9 +6,6 @@
 
 namespace hostlib::com {
 
-/// The number of the LibraryError that an unusable installed library gives.
-inline constexpr auto kLibraryDoesNotFit = static_cast<std::int32_t>(0x8002801D);
-
 /// The result says clearly that the call was never made.
 inline bool SaysNotMade(std::uint32_t result) {
   switch (result) {

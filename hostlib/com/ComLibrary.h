@@ -36,7 +36,7 @@ class ComLibrary : public Library, public ObjectGate {
   void Forget(std::wstring_view className);
   /// The bare object, when it can be made.
   HRESULT MakeObject(std::wstring_view className, Microsoft::WRL::ComPtr<IDispatch>& object);
-  /// Whether the types of any class have been found, so that there is a library.
+  /// Whether an object or its types have been seen, so that there is a library.
   bool HasBound() const { return !bindings_.empty(); }
   /// Whether a class of that name is installed at all.
   bool IsInstalled(std::wstring_view className);

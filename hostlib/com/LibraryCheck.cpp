@@ -7,7 +7,6 @@
 #include <utility>
 
 #include "common/Numbers.h"
-#include "hostlib/com/CallOutcome.h"
 #include "hostlib/com/Failures.h"
 
 namespace hostlib::com {
@@ -33,13 +32,18 @@ std::wstring Words(const Operation& operation, const std::wstring& fault) {
 class LibraryCheck {
  public:
   LibraryCheck(ComLibrary& library, std::span<const Operation> used)
-      : library_(library), used_(used), isThere_(library.HasBound()) {}
+      : library_(library), used_(used) {}
+
+  /// Uses it for the types of its class.
+  void Hold(std::wstring_view className, ComPtr<IDispatch> object) {
+    held_.emplace(className, std::move(object));
+  }
 
   std::vector<std::wstring> Faults() {
     std::vector<std::wstring> wrong;
     for (const Operation& operation : used_) wrong.push_back(WhatIsWrongWith(operation));
     // Without a single object there is no library or no terminal, which is for the run to find.
-    if (!isThere_ && !HasMade()) return {};
+    if (held_.empty() && !library_.HasBound()) return {};
     std::vector<std::wstring> faults;
     for (std::size_t i = 0; i < used_.size(); ++i) {
       const std::wstring fault = FaultOf(used_[i], wrong[i]);
@@ -48,7 +52,6 @@ class LibraryCheck {
     return faults;
   }
 
-  bool HasMade() const { return !held_.empty(); }
   std::vector<ObjectPtr> Made() const {
     std::vector<ObjectPtr> made;
     for (const auto& [className, object] : held_) {
@@ -109,7 +112,6 @@ class LibraryCheck {
 
   ComLibrary& library_;
   std::span<const Operation> used_;
-  const bool isThere_;
   std::map<std::wstring_view, ComPtr<IDispatch>> held_;
   std::map<std::wstring_view, HRESULT> notMade_;
   std::set<std::wstring_view> told_;
@@ -132,35 +134,40 @@ std::vector<ObjectPtr> CheckUsedOperations(ComLibrary& library, std::span<const 
   LibraryCheck check(library, used);
   const std::vector<std::wstring> faults = check.Faults();
   if (faults.empty()) return check.Made();
-  throw LibraryError(kLibraryDoesNotFit, L"hostlib", Message(faults),
-                     LibraryError::Outcome::kNotSent);
+  throw LibraryDoesNotFit{Message(faults)};
 }
 
 ObjectPtr CheckedLibrary::Create(std::wstring_view className) {
   if (isChecked_) return library_.Create(className);
   try {
-    for (const ObjectPtr& made : CheckBefore(className)) {
-      if (made->ClassName() == className) return made;
-    }
+    const bool canBeFirst = !library_.HasBound() && library_.IsInstalled(className);
+    return canBeFirst ? First(className) : AfterTheWholeCheck(className);
   } catch (LibraryError& error) {
-    if (error.number() == kLibraryDoesNotFit) throw LibraryDoesNotFit{error.description()};
     error.Locate(className, L"Create");
     throw;
   }
-  return library_.Create(className);
 }
 
-std::vector<ObjectPtr> CheckedLibrary::CheckBefore(std::wstring_view className) {
-  if (!std::exchange(hasBegun_, true)) {
-    std::vector<Operation> ofFirst;
-    std::ranges::copy_if(used_, std::back_inserter(ofFirst),
-                         [&](const Operation& operation) { return operation.object == className; });
-    LibraryCheck check(library_, ofFirst);
-    if (check.Faults().empty() && check.HasMade()) return check.Made();
+ObjectPtr CheckedLibrary::First(std::wstring_view className) {
+  ObjectPtr object = library_.Create(className);
+  std::vector<Operation> ofFirst;
+  std::ranges::copy_if(used_, std::back_inserter(ofFirst),
+                       [&](const Operation& operation) { return operation.object == className; });
+  LibraryCheck check(library_, ofFirst);
+  check.Hold(className, library_.Outward(object));
+  // All that does not fit is told at once.
+  if (!check.Faults().empty()) CheckUsedOperations(library_, used_);
+  return object;
+}
+
+ObjectPtr CheckedLibrary::AfterTheWholeCheck(std::wstring_view className) {
+  const std::vector<ObjectPtr> made = CheckUsedOperations(library_, used_);
+  // Nothing was looked at where no object could be made.
+  isChecked_ = library_.HasBound();
+  for (const ObjectPtr& object : made) {
+    if (object->ClassName() == className) return object;
   }
-  std::vector<ObjectPtr> made = CheckUsedOperations(library_, used_);
-  isChecked_ = true;
-  return made;
+  return library_.Create(className);
 }
 
 }  // namespace hostlib::com

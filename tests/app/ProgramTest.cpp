@@ -54,6 +54,32 @@ TEST(RunProgram, AFailureBeforeThereIsAReporterIsTheEntryProceduresBoxAndTheEnd)
             Lines{L"box 16 \"  PTA Script \" \"Error initiating script!\" -> 1"});
 }
 
+struct NoLibrary {};
+
+/// Has nothing but its first object.
+class LibraryThatEnds : public hostlib::Library {
+ public:
+  explicit LibraryThatEnds(hostlib::Library& inner) : inner_(inner) {}
+  hostlib::ObjectPtr Create(std::wstring_view className) override {
+    if (hasBegun_) throw NoLibrary();
+    hasBegun_ = true;
+    return inner_.Create(className);
+  }
+
+ private:
+  hostlib::Library& inner_;
+  bool hasBegun_ = false;
+};
+
+TEST(RunProgram, ThatThereIsNoLibraryForItPassesEveryStepAndClosesTheProgressForm) {
+  Bench bench;
+  LibraryThatEnds library(bench.library);
+  EXPECT_THROW(RunProgram(library, bench.desktop, bench.platform), NoLibrary);
+  EXPECT_EQ(bench.desktop.log,
+            (Lines{L"show frmWorking \"\"", L"refresh frmWorking \"  PTA Script \"",
+                   L"close frmWorking"}));
+}
+
 /// Its first box fails, and with it the report that it was to show.
 template <typename Failure>
 class DesktopWithoutAFirstBox : public support::FakeDesktop {

@@ -213,7 +213,6 @@ TEST_F(Binding, RegisteredTypesAreReadWithoutAQuestionToTheObject) {
 }
 
 TEST_F(Binding, AnObjectWhoseClassTheRegisteredTypesLackIsAskedForItsOwn) {
-  constexpr CLSID kElsewhere{0x1, 0x2, 0x3, {4, 5, 6, 7, 8, 9, 10, 11}};
   const auto server = Install(L"TerminalSession", kElsewhere, __uuidof(ISession));
   source_.registered = LoadTypes(Types::kGood);
   Made(L"TerminalSession")->Call(11, {Value(L"RT")});

@@ -92,6 +92,7 @@ HRESULT TestSource::FindClass(std::wstring_view progId, CLSID& classId) {
 }
 
 HRESULT TestSource::Make(const CLSID& classId, ComPtr<IDispatch>& object) {
+  ++tried;
   for (const Entry& entry : entries_) {
     if (entry.classId != classId) continue;
     if (stopping-- > 0) return CO_E_SERVER_STOPPING;

@@ -8,6 +8,7 @@
 
 #include "hostlib/com/Apartment.h"
 #include "hostlib/com/ComLibrary.h"
+#include "hostlib/com/LibraryCheck.h"
 #include "hostlib/com/ProgIds.h"
 #include "hostlib/com/TypeOwners.h"
 #include "tests/windows/com/DyingTypes.h"
@@ -85,6 +86,7 @@ class TestSource : public hostlib::com::ObjectSource {
   std::function<void()> onSearch;
   bool isOutOfReach = false;
   TypeLibrary registered;  ///< with every class
+  int tried = 0;           ///< to make one
   int made = 0;
   int searched = 0;
 
@@ -115,6 +117,25 @@ class ComBench : public testing::Test {
   TestSource source_;
   hostlib::com::ComLibrary library_{source_};
 };
+
+/// A class that no type library describes.
+inline constexpr CLSID kElsewhere{0x1, 0x2, 0x3, {4, 5, 6, 7, 8, 9, 10, 11}};
+
+/// What comes before the faults of a library that does not fit.
+inline const std::wstring kMisfit =
+    L"The installed Vantel script library is not the one that this program needs.\r\r";
+
+/// The words of an action that has to find that the library does not fit.
+template <typename Action>
+std::wstring MisfitOf(Action action) {
+  try {
+    action();
+  } catch (const hostlib::com::LibraryDoesNotFit& misfit) {
+    return misfit.words;
+  }
+  ADD_FAILURE() << "everything fits";
+  return {};
+}
 
 /// The failure of an action that has to fail.
 template <typename Action>

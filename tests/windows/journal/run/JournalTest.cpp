@@ -132,6 +132,7 @@ TEST_F(TheJournal, SaysWhyThereWasNoRunWhenTheLibraryDoesNotFit) {
                 "    | \r\n"
                 "    | TerminalSession, slot 33 (SendEntryChecked): there is no such "
                 "slot.\r\n"));
+  EXPECT_THAT(OnlyJournal(), HasSubstr(" Window frmWorking shown"));
   EXPECT_THAT(OnlyJournal(), HasSubstr(" Box answered OK after "));
   EXPECT_THAT(OnlyJournal(), HasSubstr(" Run ended with exit code 1 after "));
 }
