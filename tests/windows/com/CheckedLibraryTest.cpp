@@ -81,6 +81,16 @@ TEST_F(CheckedLibrary, LooksAtALibraryThatCameLater) {
   EXPECT_EQ(MisfitAt(L"ParameterBag"), kLacksSessionText);
 }
 
+TEST_F(CheckedLibrary, IsNotDoneWithACheckThatFoundNothingToLookAt) {
+  types_ = LoadTypes(Types::kLacksSlot);
+  Install(L"TerminalSession", __uuidof(::TestSession), __uuidof(ISession));
+  source_.failures[L"Vantel.TerminalSession"] = CO_E_SERVER_EXEC_FAILURE;
+  FailureOf([&] { checked_.Create(L"ParameterBag"); });
+  source_.failures.clear();
+  EXPECT_NE(MisfitAt(L"TerminalSession").find(kLacksSessionText.substr(kMisfit.size())),
+            std::wstring::npos);
+}
+
 TEST_F(CheckedLibrary, TriesAFirstObjectThatCanNotBeMadeOnce) {
   InstallAll(Types::kGood);
   source_.failures[L"Vantel.ParameterBag"] = CO_E_SERVER_EXEC_FAILURE;

@@ -62,13 +62,13 @@ TEST_F(LibraryCheck, EndsTheReasonForAnUnreadableDescriptionWithOneFullStop) {
     hostlib::com::ComLibrary library(source_);
     try {
       CheckUsedOperations(library, std::span(kUsed).first(1));
-    } catch (const hostlib::LibraryError& error) {
-      if (error.description().find(L"can not be read") == std::wstring::npos) continue;
+    } catch (const hostlib::com::LibraryDoesNotFit& misfit) {
+      if (misfit.words.find(L"can not be read") == std::wstring::npos) continue;
       ++unreadable;
-      EXPECT_EQ(error.description(), kMisfit +
-                                         L"ParameterBag, slot 7 (SetValue): its description can "
-                                         L"not be read. " +
-                                         reason);
+      EXPECT_EQ(misfit.words, kMisfit +
+                                  L"ParameterBag, slot 7 (SetValue): its description can "
+                                  L"not be read. " +
+                                  reason);
     }
   }
   EXPECT_GT(unreadable, 0);
