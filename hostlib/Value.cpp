@@ -42,7 +42,6 @@ std::int16_t Value::Integer() const { return ValueView(*this).Integer(); }
 std::int32_t Value::Long() const { return ValueView(*this).Long(); }
 ObjectPtr Value::AsObject() const { return ValueView(*this).AsObject(); }
 bool Value::IsArray() const { return ValueView(*this).IsArray(); }
-std::wstring_view Value::Kind() const { return ValueView(*this).Kind(); }
 
 TextArray TextsOf(Value value) { return RowsOf<TextArray>(std::move(value), L"an array of texts"); }
 

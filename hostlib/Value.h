@@ -88,9 +88,6 @@ class Value {
   /// The object; an empty value is a mismatch.
   ObjectPtr AsObject() const;
 
-  /// The kind of the content in words, for messages: "text", "array of text", ...
-  std::wstring_view Kind() const;
-
   const Content& content() const { return content_; }
   bool operator==(const Value&) const = default;
 

@@ -65,8 +65,9 @@ class ValueView {
   std::int16_t Integer() const;
   std::int32_t Long() const;
   ObjectPtr AsObject() const;
-  std::wstring_view Kind() const;
 
+  /// The kind of the content in words, for messages: "a text", "an array of texts", ...
+  std::wstring_view Kind() const;
   /// Throws common::TypeMismatch: this kind instead of the wanted one, in words.
   [[noreturn]] void Mismatch(std::wstring_view wanted) const;
 

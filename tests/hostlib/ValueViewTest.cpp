@@ -32,11 +32,11 @@ TEST(ValueView, OfEveryKindIsTheSameValueWhenCopied) {
        {Value(), Value(Missing{}), Value(true), Value(std::int16_t{7}), Value(7), Value(2.5),
         Value(kText), Value(TextArray{{L"a", L"b"}, 1}), Value(IntegerArray{{1, 2}, 0}),
         Value(DoubleArray{{1.5}, 1}), Value(object), Value(ObjectPtr())}) {
-    EXPECT_EQ(Value(ValueView(value)), value) << testing::PrintToString(value.Kind());
+    EXPECT_EQ(Value(ValueView(value)), value) << testing::PrintToString(ValueView(value).Kind());
   }
 }
 
-TEST(ValueView, TellsItsKindInWordsAsItsValueDoes) {
+TEST(ValueView, TellsItsKindInWords) {
   const std::vector<std::pair<Value, std::wstring_view>> kinds = {
       {Value(), L"nothing"},
       {Value(Missing{}), L"a missing argument"},
@@ -49,10 +49,7 @@ TEST(ValueView, TellsItsKindInWordsAsItsValueDoes) {
       {Value(IntegerArray()), L"an array of integers"},
       {Value(DoubleArray()), L"an array of doubles"},
       {Value(ObjectPtr()), L"an object"}};
-  for (const auto& [value, words] : kinds) {
-    EXPECT_EQ(ValueView(value).Kind(), words);
-    EXPECT_EQ(value.Kind(), words);
-  }
+  for (const auto& [value, words] : kinds) EXPECT_EQ(ValueView(value).Kind(), words);
 }
 
 TEST(ValueView, IsAskedForItsKindAsAValueIs) {
