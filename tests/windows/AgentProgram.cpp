@@ -64,15 +64,16 @@ void Print(const char* heading, const std::wstring& text) {
   std::printf("%s\n%s\n\n", heading, driver::ToUtf8(text).c_str());
 }
 
+BOOL CALLBACK LookForDialog(HWND window, LPARAM found) {
+  if (!IsWindowVisible(window) || GetDlgItem(window, ID_txtPWCT) == nullptr) return TRUE;
+  *reinterpret_cast<HWND*>(found) = window;
+  return FALSE;
+}
+
 /// The program's dialog on the screen; null when there is none now.
 HWND FindDialog() {
   HWND found = nullptr;
-  const auto look = [](HWND window, LPARAM result) {
-    if (!IsWindowVisible(window) || GetDlgItem(window, ID_txtPWCT) == nullptr) return TRUE;
-    *reinterpret_cast<HWND*>(result) = window;
-    return FALSE;
-  };
-  EnumWindows(+look, reinterpret_cast<LPARAM>(&found));
+  EnumWindows(&LookForDialog, reinterpret_cast<LPARAM>(&found));
   return found;
 }
 
